@@ -1,0 +1,71 @@
+# Compiler settings and the few functions with which every folder declares its library, program or tests.
+
+include(GNUInstallDirs)
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+
+option(NODESCOPE_BENCH "Build the benchmark programs" ON)
+option(NODESCOPE_FUZZ "Build the libFuzzer targets (clang only)" OFF)
+option(NODESCOPE_SANITIZE "Instrument everything with address and undefined-behaviour sanitizers" OFF)
+
+add_compile_options(-Wall -Wextra -Wpedantic -Werror)
+if(NODESCOPE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+# All headers are included from the repository root: <vexel/nodes/SoCube.h>.
+include_directories("${CMAKE_SOURCE_DIR}")
+
+# Adds each folder that has a CMakeLists.txt.
+function(nodescope_add_optional_subdirectories)
+  foreach(folder IN LISTS ARGN)
+    if(EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${folder}/CMakeLists.txt")
+      add_subdirectory("${folder}")
+    endif()
+  endforeach()
+endfunction()
+
+# Collects the C++ sources of the given folders (not of their subfolders, except detail/) into OUT.
+function(nodescope_collect_sources OUT)
+  set(sources)
+  foreach(folder IN LISTS ARGN)
+    file(GLOB found CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h" "${folder}/detail/*.cpp" "${folder}/detail/*.h")
+    list(APPEND sources ${found})
+  endforeach()
+  set(${OUT} ${sources} PARENT_SCOPE)
+endfunction()
+
+# nodescope_add_library(NAME FOLDERS ... LINK ... [PRIVATE_LINK ...]): a shared library made of all sources in FOLDERS.
+function(nodescope_add_library NAME)
+  cmake_parse_arguments(ARG "" "" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
+  nodescope_collect_sources(sources ${ARG_FOLDERS})
+  add_library(${NAME} SHARED ${sources} ${ARG_RESOURCES})
+  target_link_libraries(${NAME} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+  install(TARGETS ${NAME} EXPORT ${NAME}Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+endfunction()
+
+# nodescope_add_tests(NAME LABEL unit|gui|e2e LINK ...): one test program made of all sources in the current folder.
+# Programs labelled gui or e2e find a display from ./test, which runs ctest under a virtual one.
+function(nodescope_add_tests NAME)
+  cmake_parse_arguments(ARG "" "LABEL" "LINK" ${ARGN})
+  nodescope_collect_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
+  add_executable(${NAME} ${sources})
+  target_link_libraries(${NAME} PRIVATE test_support ${ARG_LINK})
+  add_test(NAME ${NAME} COMMAND ${NAME})
+  set_tests_properties(${NAME} PROPERTIES LABELS ${ARG_LABEL} TIMEOUT 900)
+endfunction()
