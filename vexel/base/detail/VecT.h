@@ -5,8 +5,8 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <type_traits>
-#include <typeindex>
 
 namespace vexel::detail {
 
