@@ -111,10 +111,11 @@ SbMatrix& SbMatrix::multLeft(const SbMatrix& matrix) noexcept
 
 void SbMatrix::multVecMatrix(const SbVec3f& src, SbVec3f& dst) const noexcept
 {
-    SbVec4f homogeneous;
-    multVecMatrix(SbVec4f(src[0], src[1], src[2], 1), homogeneous);
-    const float w = homogeneous[3];
-    dst.setValue(homogeneous.getValue());
+    const auto image = [this, x = src[0], y = src[1], z = src[2]](int column) {
+        return x * m_matrix[0][column] + y * m_matrix[1][column] + z * m_matrix[2][column] + m_matrix[3][column];
+    };
+    const float w = image(3);
+    dst.setValue(image(0), image(1), image(2));
     if (w != 0 && w != 1)
         dst /= w;
 }

@@ -33,7 +33,8 @@ bool isRegular(const SbMat& m, double determinant)
 {
     double volume = 1;
     for (const auto& row : m)
-        volume *= std::hypot(std::hypot(double(row[0]), double(row[1])), std::hypot(double(row[2]), double(row[3])));
+        volume *= std::sqrt(double(row[0]) * row[0] + double(row[1]) * row[1] + double(row[2]) * row[2] +
+                            double(row[3]) * row[3]);
     return std::isfinite(determinant) && std::isfinite(volume) && std::abs(determinant) > 1e-14 * volume;
 }
 

@@ -12,25 +12,25 @@ namespace {
 
 /** One directive of SbTime::format(): how many microseconds its unit has, and the next larger unit (0: none). */
 struct Unit {
-    char directive;
     std::int64_t microseconds;
     std::int64_t within;
     int digits;
+    char directive;
 };
 
 constexpr std::int64_t Second = 1000000;
 constexpr Unit Units[] = {
-    {'D', 86400 * Second, 0, 1},
-    {'H', 3600 * Second, 0, 1},
-    {'M', 60 * Second, 0, 1},
-    {'S', Second, 0, 1},
-    {'I', 1000, 0, 1},
-    {'U', 1, 0, 1},
-    {'h', 3600 * Second, 86400 * Second, 2},
-    {'m', 60 * Second, 3600 * Second, 2},
-    {'s', Second, 60 * Second, 2},
-    {'i', 1000, Second, 3},
-    {'u', 1, Second, 6},
+    {86400 * Second, 0, 1, 'D'},
+    {3600 * Second, 0, 1, 'H'},
+    {60 * Second, 0, 1, 'M'},
+    {Second, 0, 1, 'S'},
+    {1000, 0, 1, 'I'},
+    {1, 0, 1, 'U'},
+    {3600 * Second, 86400 * Second, 2, 'h'},
+    {60 * Second, 3600 * Second, 2, 'm'},
+    {Second, 60 * Second, 2, 's'},
+    {1000, Second, 3, 'i'},
+    {1, Second, 6, 'u'},
 };
 
 /** Microseconds; lengths that no 64-bit count can hold are cut off. */

@@ -3,7 +3,6 @@
 #include <vexel/base/detail/ErrorHandler.h>
 
 #include <cstdio>
-#include <string>
 
 namespace vexel::detail {
 
@@ -58,15 +57,7 @@ void SoError::post(const char* format, ...)
 
 SbString SoError::formatted(const char* format, std::va_list arguments)
 {
-    std::va_list forLength;
-    va_copy(forLength, arguments);
-    const int length = std::vsnprintf(nullptr, 0, format, forLength);
-    va_end(forLength);
-    if (length < 0)
-        return SbString(format);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    std::vsnprintf(text.data(), text.size(), format, arguments);
-    return SbString(std::string_view(text).substr(0, static_cast<std::size_t>(length)));
+    return QString::vasprintf(format, arguments);
 }
 
 void SoError::handle(const vexel::detail::ErrorHandler& handler) const

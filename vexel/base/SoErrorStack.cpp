@@ -6,13 +6,11 @@
 
 template class vexel::detail::ErrorKind<SoErrorStack>;
 
-// Not inlined, so that the number of own functions on the stack is known.
-__attribute__((noinline)) static SbString collectStack()
+static SbString collectStack(const void* returnAddress)
 {
     if (!SoPreferences::getBool("VXL_DEBUG_STACKERROR", false))
         return SbString();
-    constexpr int OwnFunctions = 2; // this one and post()
-    const QString text = QString::fromStdString(vexel::detail::describeCallStack(OwnFunctions));
+    QString text = QString::fromStdString(vexel::detail::describeCallStack(returnAddress));
     if (!SoPreferences::getBool("VXL_STACKWALKER_HTML_OUTPUT", false))
         return text;
     return "<pre>" + text.toHtmlEscaped() + "</pre>";
@@ -22,7 +20,8 @@ void SoErrorStack::post(const char* format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);
-    const SoErrorStack error(SbString("Critical error: ") + formatted(format, arguments), collectStack());
+    const SoErrorStack error(SbString("Critical error: ") + formatted(format, arguments),
+                             collectStack(__builtin_return_address(0)));
     va_end(arguments);
     error.handle();
 }

@@ -12,13 +12,14 @@
 
 #include <cmath>
 #include <type_traits>
+#include <vector>
 
 template <class Box>
 class BoxTest : public testing::Test {
 };
 
 using AllBoxes = testing::Types<SbBox2s, SbBox2i32, SbBox2f, SbBox3s, SbBox3i32, SbBox3f>;
-TYPED_TEST_SUITE(BoxTest, AllBoxes);
+TYPED_TEST_SUITE(BoxTest, AllBoxes, );
 
 TYPED_TEST(BoxTest, GrowsFromEmpty)
 {
@@ -51,6 +52,13 @@ TEST(Box, TouchingBoxesIntersect)
     EXPECT_FALSE(box.intersect(SbBox2s(SbVec2s(11, 0), SbVec2s(20, 20))));
     EXPECT_FALSE(box.intersect(SbBox2s()));
     EXPECT_TRUE(box.intersect(SbBox2s(SbVec2s(2, 2), SbVec2s(3, 3))));
+}
+
+TEST(Box, ExtendPassesOverNotANumber)
+{
+    SbBox3f box(SbVec3f(0, 0, 0), SbVec3f(1, 1, 1));
+    box.extendBy(SbVec3f(NAN, 2, NAN));
+    EXPECT_EQ(box, SbBox3f(SbVec3f(0, 0, 0), SbVec3f(1, 2, 1)));
 }
 
 TEST(Box, Volume)

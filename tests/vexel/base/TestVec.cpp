@@ -22,7 +22,7 @@ class VecTest : public testing::Test {
 
 using AllVecs = testing::Types<SbVec2s, SbVec2i32, SbVec2f, SbVec2d, SbVec3s, SbVec3i32, SbVec3f, SbVec3d, SbVec4s,
                                SbVec4i32, SbVec4f, SbVec4d>;
-TYPED_TEST_SUITE(VecTest, AllVecs);
+TYPED_TEST_SUITE(VecTest, AllVecs, );
 
 TYPED_TEST(VecTest, IsAnArrayOfComponents)
 {

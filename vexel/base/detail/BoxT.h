@@ -61,13 +61,12 @@ public:
     /** Lengths of the edges; zero when the box is empty. */
     constexpr Vec getSize() const noexcept { return isEmpty() ? Vec() : m_max - m_min; }
 
+    /** A component that is not a number changes nothing. */
     constexpr void extendBy(const Vec& point) noexcept
     {
         for (int i = 0; i < Vec::Size; ++i) {
-            if (point[i] < m_min[i])
-                m_min[i] = point[i];
-            if (point[i] > m_max[i])
-                m_max[i] = point[i];
+            m_min[i] = point[i] < m_min[i] ? point[i] : m_min[i];
+            m_max[i] = point[i] > m_max[i] ? point[i] : m_max[i];
         }
     }
     constexpr void extendBy(const Derived& box) noexcept

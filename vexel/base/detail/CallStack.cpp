@@ -1,5 +1,6 @@
 #include <vexel/base/detail/CallStack.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -43,15 +44,16 @@ std::string describeFrame(const void* address)
 
 } // namespace
 
-// Must not be inlined, or `skip` would count one function too many.
-__attribute__((noinline)) std::string describeCallStack(int skip)
+std::string describeCallStack(const void* returnAddress)
 {
     void* frames[MaxFrames];
-    const int count = backtrace(frames, MaxFrames);
+    void** const end = frames + backtrace(frames, MaxFrames);
+    void** first = std::find(frames, end, returnAddress);
+    if (first == end)
+        first = frames;
     std::string text;
-    const int first = skip + 1;
-    for (int i = first; i < count; ++i)
-        text += "#" + std::to_string(i - first) + " " + describeFrame(frames[i]) + "\n";
+    for (void** frame = first; frame != end; ++frame)
+        text += "#" + std::to_string(frame - first) + " " + describeFrame(*frame) + "\n";
     return text;
 }
 

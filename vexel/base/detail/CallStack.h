@@ -5,9 +5,10 @@
 namespace vexel::detail {
 
 /**
- * The calling functions as text, innermost first, one to a line: number, demangled name with offset (as far as the
- * function is exported), library with offset. Leaves out itself and the first `skip` callers.
+ * The active functions as text, innermost first, one to a line: number, demangled name with offset (as far as the
+ * function is exported), library with offset. Starts with the function that `returnAddress` leads back to; with
+ * all functions when none of them does.
  */
-std::string describeCallStack(int skip);
+std::string describeCallStack(const void* returnAddress);
 
 } // namespace vexel::detail

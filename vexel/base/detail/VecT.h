@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string_view>
 #include <type_traits>
+#include <utility>
 
 namespace vexel::detail {
 
@@ -152,13 +153,28 @@ public:
     {
         return forEach([&](int i) { m_vec[i] = static_cast<T>(m_vec[i] / f); });
     }
-    constexpr Derived operator-() const noexcept { return Derived(self()).negate(); }
+    constexpr Derived operator-() const noexcept
+    {
+        return make([this](int i) { return -m_vec[i]; });
+    }
 
-    friend constexpr Derived operator+(Derived a, const Derived& b) noexcept { return a += b; }
-    friend constexpr Derived operator-(Derived a, const Derived& b) noexcept { return a -= b; }
-    friend constexpr Derived operator*(Derived a, Scalar f) noexcept { return a *= f; }
-    friend constexpr Derived operator*(Scalar f, Derived a) noexcept { return a *= f; }
-    friend constexpr Derived operator/(Derived a, Scalar f) noexcept { return a /= f; }
+    friend constexpr Derived operator+(const Derived& a, const Derived& b) noexcept
+    {
+        return make([&](int i) { return a[i] + b[i]; });
+    }
+    friend constexpr Derived operator-(const Derived& a, const Derived& b) noexcept
+    {
+        return make([&](int i) { return a[i] - b[i]; });
+    }
+    friend constexpr Derived operator*(const Derived& a, Scalar f) noexcept
+    {
+        return make([&](int i) { return a[i] * f; });
+    }
+    friend constexpr Derived operator*(Scalar f, const Derived& a) noexcept { return a * f; }
+    friend constexpr Derived operator/(const Derived& a, Scalar f) noexcept
+    {
+        return make([&](int i) { return a[i] / f; });
+    }
     friend constexpr bool operator!=(const Derived& a, const Derived& b) noexcept { return !(a == b); }
     friend constexpr bool operator==(const Derived& a, const Derived& b) noexcept
     {
@@ -172,12 +188,29 @@ private:
     constexpr Derived& self() noexcept { return static_cast<Derived&>(*this); }
     constexpr const Derived& self() const noexcept { return static_cast<const Derived&>(*this); }
 
+    // Written out by folding instead of a loop, which the compiler would partly vectorise and so slow down.
     template <class F>
-    constexpr Derived& forEach(F&& f) noexcept
+    constexpr Derived& forEach(F f) noexcept
     {
-        for (int i = 0; i < N; ++i)
-            f(i);
+        forEach(f, std::make_index_sequence<N>());
         return self();
+    }
+    template <class F, std::size_t... I>
+    static constexpr void forEach(F& f, std::index_sequence<I...>) noexcept
+    {
+        (f(static_cast<int>(I)), ...);
+    }
+
+    /** The vector of the values of `f` for each index. */
+    template <class F>
+    static constexpr Derived make(F f) noexcept
+    {
+        return make(f, std::make_index_sequence<N>());
+    }
+    template <class F, std::size_t... I>
+    static constexpr Derived make(F& f, std::index_sequence<I...>) noexcept
+    {
+        return Derived(static_cast<T>(f(static_cast<int>(I)))...);
     }
 
     T m_vec[N] = {};
