@@ -50,22 +50,35 @@ function(nodescope_collect_sources OUT)
   set(${OUT} ${sources} PARENT_SCOPE)
 endfunction()
 
-# nodescope_add_library(NAME FOLDERS ... LINK ... [PRIVATE_LINK ...]): a shared library made of all sources in FOLDERS.
+# Without the dependency on its own list of files, moc would not look at a header that was added since.
+function(nodescope_use_automoc TARGET)
+  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON
+    AUTOGEN_TARGET_DEPENDS "${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${TARGET}_autogen.dir/AutogenInfo.json")
+endfunction()
+
+# nodescope_add_library(NAME [AUTOMOC] FOLDERS ... LINK ... [PRIVATE_LINK ...] [RESOURCES ...]): a shared library made of all sources
+# in FOLDERS; with AUTOMOC when classes in it have signals or slots.
 function(nodescope_add_library NAME)
-  cmake_parse_arguments(ARG "" "" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
+  cmake_parse_arguments(ARG "AUTOMOC" "" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
   nodescope_collect_sources(sources ${ARG_FOLDERS})
   add_library(${NAME} SHARED ${sources} ${ARG_RESOURCES})
   set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX)
+  if(ARG_AUTOMOC)
+    nodescope_use_automoc(${NAME})
+  endif()
   target_link_libraries(${NAME} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
   install(TARGETS ${NAME} EXPORT ${NAME}Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 endfunction()
 
-# nodescope_add_tests(NAME LABEL unit|gui|e2e LINK ...): one test program made of all sources in the current folder.
+# nodescope_add_tests(NAME [AUTOMOC] LABEL unit|gui|e2e LINK ...): one test program made of all sources in the current folder.
 # Programs labelled gui or e2e find a display from ./test, which runs ctest under a virtual one.
 function(nodescope_add_tests NAME)
-  cmake_parse_arguments(ARG "" "LABEL" "LINK" ${ARGN})
+  cmake_parse_arguments(ARG "AUTOMOC" "LABEL" "LINK" ${ARGN})
   nodescope_collect_sources(sources "${CMAKE_CURRENT_SOURCE_DIR}")
   add_executable(${NAME} ${sources})
+  if(ARG_AUTOMOC)
+    nodescope_use_automoc(${NAME})
+  endif()
   set(support test_support)
   if(ARG_LABEL MATCHES "gui|e2e")
     set(support test_support_gui)
