@@ -50,10 +50,20 @@ function(nodescope_collect_sources OUT)
   set(${OUT} ${sources} PARENT_SCOPE)
 endfunction()
 
-# Without the dependency on its own list of files, moc would not look at a header that was added since.
+# Runs moc on the headers of TARGET that need it. The generator looks again only at files that it knows, so when the list of
+# sources has changed its mark of being done is removed.
 function(nodescope_use_automoc TARGET)
-  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON
-    AUTOGEN_TARGET_DEPENDS "${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/${TARGET}_autogen.dir/AutogenInfo.json")
+  set_target_properties(${TARGET} PROPERTIES AUTOMOC ON)
+  get_target_property(sources ${TARGET} SOURCES)
+  set(list_file "${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_sources.txt")
+  set(known_sources "")
+  if(EXISTS "${list_file}")
+    file(READ "${list_file}" known_sources)
+  endif()
+  if(NOT known_sources STREQUAL sources)
+    file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${TARGET}_autogen/timestamp")
+    file(WRITE "${list_file}" "${sources}")
+  endif()
 endfunction()
 
 # nodescope_add_library(NAME [AUTOMOC] FOLDERS ... LINK ... [PRIVATE_LINK ...] [RESOURCES ...]): a shared library made of all sources

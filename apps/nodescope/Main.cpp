@@ -1,7 +1,9 @@
 #include "CommandLine.h"
 
+#include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/mainframe/SoNodescopeMainFrame.h>
+
 #include <QApplication>
-#include <QMainWindow>
 #include <QPixmap>
 #include <QTimer>
 #include <cstdio>
@@ -11,14 +13,16 @@ namespace {
 int openWindow(const CommandLine& line, int argc, char** argv)
 {
     QApplication application(argc, argv);
-    QMainWindow window;
-    window.setWindowTitle(QStringLiteral("Nodescope"));
-    window.resize(1280, 800);
-    window.show();
+    SoCommandManager manager;
+    SoNodescopeMainFrame frame;
+    frame.setUp(&manager, SoNodescopeMainFrame::Hosting::Standalone);
+    manager.initialize(&frame);
+    frame.restoreSettings();
+    frame.show();
     if (!line.screenshot.empty()) {
-        QTimer::singleShot(0, &window, [&] {
+        QTimer::singleShot(0, &frame, [&] {
             const QString name = QString::fromLocal8Bit(line.screenshot.c_str());
-            const bool written = window.grab().save(name);
+            const bool written = frame.grab().save(name);
             if (!written)
                 std::fprintf(stderr, "nodescope: cannot write the picture '%s'; check folder and file extension\n",
                              line.screenshot.c_str());

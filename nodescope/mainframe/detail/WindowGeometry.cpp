@@ -1,0 +1,38 @@
+#include "WindowGeometry.h"
+
+#include <nodescope/preferences/SoPreferenceStore.h>
+
+#include <QWidget>
+
+namespace {
+
+constexpr int Unlimited = 32767;
+
+QString key(const char* name)
+{
+    return QString(SoPreferenceStore::MainFrameGroup) + name;
+}
+
+} // namespace
+
+void WindowGeometry::restore(QWidget& window)
+{
+    const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
+    const int width = store.readInt(key("/WindowWidth"), Unlimited);
+    const int height = store.readInt(key("/WindowHeight"), Unlimited);
+    window.move(store.readInt(key("/WindowX"), 0), store.readInt(key("/WindowY"), 0));
+    if (store.readString(key("/MainWindowLayout"), QString()).isEmpty())
+        window.setWindowState(window.windowState() | Qt::WindowMaximized);
+    else
+        window.resize(width, height);
+}
+
+void WindowGeometry::save(const QWidget& window)
+{
+    SoPreferenceStore& store = *SoPreferenceStore::getInstance();
+    store.writeInt(key("/WindowWidth"), window.width());
+    store.writeInt(key("/WindowHeight"), window.height());
+    store.writeInt(key("/WindowX"), window.x());
+    store.writeInt(key("/WindowY"), window.y());
+    store.writeString(key("/MainWindowLayout"), QString());
+}
