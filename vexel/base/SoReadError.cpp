@@ -8,7 +8,7 @@ void SoReadError::post(const SbString& place, const char* format, ...)
 {
     std::va_list arguments;
     va_start(arguments, format);
-    const SoReadError error(SbString("Read error in ") + place + ": " + formatted(format, arguments));
+    const SoReadError error(place + SbString(": ") + formatted(format, arguments));
     va_end(arguments);
     error.handle();
 }

@@ -1,0 +1,280 @@
+#include <vexel/fields/SoField.h>
+
+#include <algorithm>
+
+#include <vexel/base/SbString.h>
+#include <vexel/engines/SoEngineOutput.h>
+#include <vexel/fields/SoFieldContainer.h>
+#include <vexel/fields/SoMField.h>
+#include <vexel/fields/SoSField.h>
+#include <vexel/fields/detail/FieldConversion.h>
+#include <vexel/fields/detail/FieldLinks.h>
+#include <vexel/io/SoInput.h>
+#include <vexel/io/SoOutput.h>
+#include <vexel/sensors/SoDataSensor.h>
+
+SoField::SoField(SoFieldContainer* container, const char* name)
+    : m_container(container), m_flags(Default | NotifyEnabled | ConnectionEnabled)
+{
+    if (container)
+        container->registerField(name, this);
+}
+
+SoField::~SoField()
+{
+    if (!m_links)
+        return;
+    for (SoDataSensor* sensor : std::vector<SoDataSensor*>(m_links->sensors))
+        sensor->sourceDestroyed();
+    disconnect();
+    for (SoField* follower : std::vector<SoField*>(m_links->followers))
+        follower->disconnect();
+}
+
+SoType SoField::getClassTypeId()
+{
+    static const SoType type = SoType::createType(SoType(), "SoField");
+    return type;
+}
+
+SoType SoSField::getClassTypeId()
+{
+    static const SoType type = SoType::createType(SoField::getClassTypeId(), "SoSField");
+    return type;
+}
+
+SoType SoMField::getClassTypeId()
+{
+    static const SoType type = SoType::createType(SoField::getClassTypeId(), "SoMField");
+    return type;
+}
+
+SbName SoField::getName() const
+{
+    return m_container ? m_container->getFieldName(this) : SbName();
+}
+
+namespace {
+
+// Runs a reader over a text that must be used up.
+template <class Read>
+bool readWhole(const SbString& text, Read&& read)
+{
+    const QByteArray bytes = text.toUtf8();
+    SoInput in;
+    in.setQuiet(true);
+    in.setBuffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return read(in) && in.eof();
+}
+
+} // namespace
+
+bool SoField::set(const SbString& text)
+{
+    // A trial value first, so that a text with a fault in its middle changes nothing.
+    std::unique_ptr<SoField> trial(static_cast<SoField*>(getTypeId().createInstance()));
+    if (!trial)
+        return readWhole(text, [this](SoInput& in) { return readValue(in); });
+    trial->copyFrom(*this);
+    if (!readWhole(text, [&](SoInput& in) { return trial->readValue(in); }))
+        return false;
+    copyFrom(*trial);
+    return true;
+}
+
+bool SoField::set(const char* text)
+{
+    return set(SbString(text));
+}
+
+SbString SoField::get() const
+{
+    SoOutput out;
+    writeValue(out);
+    return SbString(std::string_view(out.getText()));
+}
+
+void SoField::get(SbString& text) const
+{
+    text = get();
+}
+
+bool SoMField::set1(int index, const SbString& text)
+{
+    if (index < 0)
+        return false;
+    std::unique_ptr<SoMField> trial(static_cast<SoMField*>(getTypeId().createInstance()));
+    if (!readWhole(text, [&](SoInput& in) { return trial->read1Value(in, 0); }))
+        return false;
+    return readWhole(text, [&](SoInput& in) { return read1Value(in, index); });
+}
+
+SbString SoMField::get1(int index) const
+{
+    SoOutput out;
+    if (index >= 0 && index < getNum())
+        write1Value(out, index);
+    return SbString(std::string_view(out.getText()));
+}
+
+void SoField::forEachReference(const std::function<void(SoBase*)>&) const {}
+
+void SoField::remapReferences(SoCopyMap&) {}
+
+void SoField::setIgnored(bool on)
+{
+    setFlag(Ignored, on);
+    touch();
+}
+
+void SoField::setFieldType(FieldType type)
+{
+    m_flags = static_cast<std::uint16_t>((m_flags & ((1u << TypeShift) - 1)) | (unsigned(type) << TypeShift));
+}
+
+bool SoField::enableNotify(bool on)
+{
+    const bool before = isNotifyEnabled();
+    setFlag(NotifyEnabled, on);
+    return before;
+}
+
+void SoField::touch()
+{
+    SoNotList list;
+    notify(list);
+}
+
+void SoField::valueChanged(SoTriggerType type)
+{
+    // Fetching the value over a connection is no change of its own: the source has notified already.
+    if (hasFlag(Evaluating))
+        return;
+    setFlag(Default, false);
+    setFlag(Stale, false);
+    SoNotList list(type);
+    notify(list);
+}
+
+void SoField::notify(SoNotList& list)
+{
+    if (!isNotifyEnabled() || hasFlag(Notifying))
+        return;
+    setFlag(Notifying, true);
+    if (!list.field && !list.node)
+        list.field = this;
+    if (m_links) {
+        for (SoDataSensor* sensor : std::vector<SoDataSensor*>(m_links->sensors))
+            sensor->notify(list);
+        for (SoField* follower : std::vector<SoField*>(m_links->followers))
+            follower->sourceChanged();
+    }
+    if (m_container)
+        m_container->notify(list);
+    setFlag(Notifying, false);
+}
+
+SoFieldLinks& SoField::links()
+{
+    if (!m_links)
+        m_links = std::make_unique<SoFieldLinks>();
+    return *m_links;
+}
+
+bool SoField::connectFrom(SoField* source)
+{
+    if (!source || source == this || !canConvertField(source->getTypeId(), getTypeId()))
+        return false;
+    disconnect();
+    links().sourceField = source;
+    source->links().followers.push_back(this);
+    setFlag(Default, false);
+    sourceChanged();
+    return true;
+}
+
+bool SoField::connectFrom(SoEngineOutput* source)
+{
+    if (!source || !canConvertField(source->getConnectionType(), getTypeId()))
+        return false;
+    disconnect();
+    links().sourceOutput = source;
+    source->addConnection(this);
+    setFlag(Default, false);
+    sourceChanged();
+    return true;
+}
+
+void SoField::disconnect()
+{
+    if (!m_links)
+        return;
+    evaluate();
+    if (SoField* source = m_links->sourceField) {
+        auto& followers = source->m_links->followers;
+        followers.erase(std::find(followers.begin(), followers.end(), this));
+        m_links->sourceField = nullptr;
+    }
+    if (SoEngineOutput* source = m_links->sourceOutput) {
+        m_links->sourceOutput = nullptr;
+        source->removeConnection(this);
+    }
+}
+
+SoField* SoField::getConnectedField() const
+{
+    return m_links ? m_links->sourceField : nullptr;
+}
+
+SoEngineOutput* SoField::getConnectedEngine() const
+{
+    return m_links ? m_links->sourceOutput : nullptr;
+}
+
+std::vector<SoField*> SoField::getForwardConnections() const
+{
+    return m_links ? m_links->followers : std::vector<SoField*>();
+}
+
+void SoField::enableConnection(bool on)
+{
+    const bool before = isConnectionEnabled();
+    setFlag(ConnectionEnabled, on);
+    if (on && !before && isConnected())
+        sourceChanged();
+}
+
+void SoField::sourceChanged()
+{
+    if (!isConnectionEnabled())
+        return;
+    setFlag(Stale, true);
+    touch();
+}
+
+void SoField::evaluateConnection() const
+{
+    if (hasFlag(Evaluating))
+        return;
+    setFlag(Stale, false);
+    setFlag(Evaluating, true);
+    auto* self = const_cast<SoField*>(this);
+    if (m_links->sourceField)
+        convertField(*m_links->sourceField, *self);
+    else if (m_links->sourceOutput)
+        m_links->sourceOutput->giveValueTo(*self);
+    setFlag(Evaluating, false);
+}
+
+void SoField::addAuditor(SoDataSensor* sensor)
+{
+    links().sensors.push_back(sensor);
+}
+
+void SoField::removeAuditor(SoDataSensor* sensor)
+{
+    auto& sensors = links().sensors;
+    const auto found = std::find(sensors.begin(), sensors.end(), sensor);
+    if (found != sensors.end())
+        sensors.erase(found);
+}

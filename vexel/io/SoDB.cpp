@@ -1,0 +1,280 @@
+#include <vexel/io/SoDB.h>
+
+#include <condition_variable>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+#include <vexel/base/SoPath.h>
+#include <vexel/base/SoReadError.h>
+#include <vexel/fields/SoFieldContainer.h>
+#include <vexel/fields/SoSFTime.h>
+#include <vexel/fields/detail/FieldTypes.h>
+#include <vexel/io/SoInput.h>
+#include <vexel/io/SoOutput.h>
+#include <vexel/io/detail/GlobalFields.h>
+#include <vexel/io/detail/SceneReader.h>
+#include <vexel/nodes/SoSeparator.h>
+#include <vexel/nodes/detail/NodeTypes.h>
+#include <vexel/sensors/SoSensorManager.h>
+#include <vexel/sensors/SoTimerSensor.h>
+
+namespace {
+
+/** Holds one field that the whole process knows. */
+class SoGlobalField : public SoFieldContainer {
+    SO_CONTAINER(SoGlobalField, SoFieldContainer)
+public:
+    void hold(std::unique_ptr<SoField> field, const SbName& name)
+    {
+        m_field = std::move(field);
+        m_field->setContainer(this);
+        m_data.appendUnordered(this, name, m_field.get());
+    }
+    SoField* field() const { return m_field.get(); }
+    const SoFieldData& getFieldData() const override { return m_data; }
+
+private:
+    std::unique_ptr<SoField> m_field;
+    SoFieldData m_data;
+};
+
+/** Any number of readers or one writer; a thread may nest its own locks. */
+class DatabaseLock {
+public:
+    void lockForWriting()
+    {
+        std::unique_lock lock(m_mutex);
+        const auto self = std::this_thread::get_id();
+        m_changed.wait(lock, [&] { return m_writer == self || (m_writes == 0 && m_readers.empty()); });
+        m_writer = self;
+        ++m_writes;
+    }
+    void unlockForWriting()
+    {
+        std::lock_guard lock(m_mutex);
+        if (m_writes > 0 && --m_writes == 0)
+            m_writer = {};
+        m_changed.notify_all();
+    }
+    void lockForReading()
+    {
+        std::unique_lock lock(m_mutex);
+        const auto self = std::this_thread::get_id();
+        m_changed.wait(lock, [&] { return m_writes == 0 || m_writer == self; });
+        ++m_readers[self];
+    }
+    void unlockForReading()
+    {
+        std::lock_guard lock(m_mutex);
+        const auto found = m_readers.find(std::this_thread::get_id());
+        if (found != m_readers.end() && --found->second == 0)
+            m_readers.erase(found);
+        m_changed.notify_all();
+    }
+
+private:
+    std::mutex m_mutex;
+    std::condition_variable m_changed;
+    std::thread::id m_writer;
+    std::map<std::thread::id, int> m_readers;
+    int m_writes = 0;
+};
+
+struct Database {
+    DatabaseLock lock;
+    SoSensorManager sensors;
+    std::map<SbName, SoGlobalField*> globals;
+    bool isInitialized = false;
+};
+
+// Not destroyed at the end: sensors and fields in static objects of a program may go later.
+Database& database()
+{
+    static auto* instance = new Database;
+    return *instance;
+}
+
+void setRealTime(void*, SoSensor*)
+{
+    if (auto* realTime = static_cast<SoSFTime*>(SoDB::getGlobalField("realTime")))
+        realTime->setValue(SbTime::getTimeOfDay());
+}
+
+} // namespace
+
+void SoVexelBase::init()
+{
+    registerFieldTypes();
+}
+
+void SoDB::init()
+{
+    Database& db = database();
+    if (db.isInitialized)
+        return;
+    db.isInitialized = true;
+    SoVexelBase::init();
+    registerNodeTypes();
+    createGlobalField("realTime", SoSFTime::getClassTypeId());
+    static SoTimerSensor clock(setRealTime);
+    setRealTime(nullptr, nullptr);
+    clock.schedule();
+}
+
+bool SoDB::isInitialized()
+{
+    return database().isInitialized;
+}
+
+SbString SoDB::getVersion()
+{
+    return SbString("Vexel " VEXEL_VERSION);
+}
+
+bool SoDB::read(SoInput* in, SoNode*& root)
+{
+    SoPath* path = nullptr;
+    switch (in->sceneReader().readItem(root, path)) {
+    case SceneReader::Item::Node:
+    case SceneReader::Item::Nothing:
+        return true;
+    case SceneReader::Item::Global:
+        return read(in, root);
+    default:
+        return false;
+    }
+}
+
+bool SoDB::read(SoInput* in, SoPath*& path)
+{
+    SoNode* node = nullptr;
+    switch (in->sceneReader().readItem(node, path)) {
+    case SceneReader::Item::Path:
+    case SceneReader::Item::Nothing:
+        return true;
+    case SceneReader::Item::Global:
+        return read(in, path);
+    default:
+        return false;
+    }
+}
+
+SoSeparator* SoDB::readAll(SoInput* in)
+{
+    if (!in->checkHeader())
+        return nullptr;
+    auto* root = new SoSeparator;
+    root->ref();
+    root->enableNotify(false);
+    SceneReader& reader = in->sceneReader();
+    SoNode* node = nullptr;
+    SoPath* path = nullptr;
+    for (;;) {
+        const SceneReader::Item item = reader.readItem(node, path);
+        if (item == SceneReader::Item::Nothing)
+            break;
+        if (item == SceneReader::Item::Node && node)
+            root->addChild(node);
+    }
+    root->enableNotify(true);
+    in->postErrorCount();
+    const int count = root->getNumChildren();
+    SoSeparator* result = count > 0 || in->getNumErrors() == 0 ? root : nullptr;
+    if (count == 1 && root->getChild(0)->getTypeId() == SoSeparator::getClassTypeId())
+        result = static_cast<SoSeparator*>(root->getChild(0));
+    if (result)
+        result->ref();
+    root->unref();
+    if (result)
+        result->unrefNoDelete();
+    return result;
+}
+
+bool SoDB::isValidHeader(const char* line)
+{
+    const std::string_view text(line);
+    return SceneHeader::find(text.data(), text.size()).kind != SceneHeader::Kind::None;
+}
+
+bool SoDB::registerHeader(const SbString& header, bool isBinary, HeaderCB preRead, void* data)
+{
+    return SceneHeader::add(header.toUtf8().constData(),
+                            isBinary ? SceneHeader::Kind::Binary : SceneHeader::Kind::Ascii, preRead, data);
+}
+
+void SoDB::writelock()
+{
+    database().lock.lockForWriting();
+}
+
+void SoDB::writeunlock()
+{
+    database().lock.unlockForWriting();
+}
+
+void SoDB::readlock()
+{
+    database().lock.lockForReading();
+}
+
+void SoDB::readunlock()
+{
+    database().lock.unlockForReading();
+}
+
+SoSensorManager& SoDB::getSensorManager()
+{
+    return database().sensors;
+}
+
+void SoDB::setDelaySensorTimeout(SbTime timeout)
+{
+    getSensorManager().setDelaySensorTimeout(timeout);
+}
+
+SbTime SoDB::getDelaySensorTimeout()
+{
+    return getSensorManager().getDelaySensorTimeout();
+}
+
+SoField* SoDB::getGlobalField(const SbName& name)
+{
+    const auto& globals = database().globals;
+    const auto found = globals.find(name);
+    return found == globals.end() ? nullptr : found->second->field();
+}
+
+SoField* SoDB::createGlobalField(const SbName& name, SoType type)
+{
+    if (SoField* field = getGlobalField(name))
+        return field->getTypeId() == type ? field : nullptr;
+    if (!type.isDerivedFrom(SoField::getClassTypeId()) || !type.canCreateInstance())
+        return nullptr;
+    auto* global = new SoGlobalField;
+    global->ref();
+    global->hold(std::unique_ptr<SoField>(static_cast<SoField*>(type.createInstance())), name);
+    database().globals.emplace(name, global);
+    return global->field();
+}
+
+bool isGlobalField(const SoField& field)
+{
+    return field.getContainer() && field.getContainer()->isOfType(SoGlobalField::getClassTypeId());
+}
+
+void writeGlobalField(SoOutput& out, const SoField& field)
+{
+    const std::string_view name = field.getName().getView();
+    out.write("GlobalField { ");
+    out.write(field.getTypeId().getName().getView());
+    out.write(' ');
+    out.write(name);
+    out.write(' ');
+    out.write(name);
+    out.write(' ');
+    field.writeValue(out);
+    out.write(" }");
+}

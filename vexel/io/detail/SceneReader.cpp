@@ -1,0 +1,393 @@
+#include <vexel/io/detail/SceneReader.h>
+
+#include <vexel/base/SoPath.h>
+#include <vexel/engines/SoEngine.h>
+#include <vexel/engines/SoEngineOutput.h>
+#include <vexel/fields/SoField.h>
+#include <vexel/fields/SoFieldContainer.h>
+#include <vexel/io/SoDB.h>
+#include <vexel/io/SoInput.h>
+#include <vexel/nodes/SoUnknownNode.h>
+
+namespace {
+
+std::string quoted(std::string_view word)
+{
+    return "\"" + std::string(word) + "\"";
+}
+
+// What follows a plus sign only keeps equal names apart within a file.
+std::string_view withoutSuffix(std::string_view name)
+{
+    return name.substr(0, name.find('+'));
+}
+
+class DepthGuard {
+public:
+    explicit DepthGuard(int& depth) : m_depth(++depth), m_counter(depth) {}
+    DepthGuard(const DepthGuard&) = delete;
+    DepthGuard& operator=(const DepthGuard&) = delete;
+    ~DepthGuard() { --m_counter; }
+    int depth() const { return m_depth; }
+
+private:
+    int m_depth;
+    int& m_counter;
+};
+
+} // namespace
+
+SceneReader::SceneReader(SoInput& in) : m_in(in), m_text(in.text()) {}
+
+SceneReader::~SceneReader()
+{
+    for (SoFieldContainer* container : m_kept)
+        container->unref();
+}
+
+void SceneReader::keep(SoFieldContainer* container)
+{
+    container->ref();
+    m_kept.push_back(container);
+}
+
+SceneReader::Item SceneReader::readItem(SoNode*& node, SoPath*& path)
+{
+    node = nullptr;
+    path = nullptr;
+    while (m_text.peek() == '}') {
+        m_in.postErrorAt(m_text.position(), "a closing brace without an opening one; it is passed over");
+        m_text.accept('}');
+    }
+    if (!m_text.peek())
+        return Item::Nothing;
+    const char* start = m_text.position();
+    const std::string_view word = m_text.readWord();
+    if (word == "Path") {
+        m_text.setPosition(start);
+        return readPath(path) ? Item::Path : Item::Error;
+    }
+    SoField* global = nullptr;
+    if (word == "GlobalField")
+        return readGlobal(global) ? Item::Global : Item::Error;
+    m_text.setPosition(start);
+    SoFieldContainer* container = nullptr;
+    if (readContainer(SoNode::getClassTypeId(), container)) {
+        node = static_cast<SoNode*>(container);
+        return Item::Node;
+    }
+    // Something that no item begins with is passed over alone.
+    if (m_text.position() == start)
+        m_text.skipItem();
+    return Item::Error;
+}
+
+bool SceneReader::readContainer(SoType family, SoFieldContainer*& container)
+{
+    container = nullptr;
+    const std::string_view word = m_text.readWord();
+    if (word.empty())
+        return m_in.postError("a node");
+    if (word == "NULL")
+        return true;
+    std::string_view outputName;
+    if (word == "USE")
+        return readUse(container, outputName);
+    if (word != "DEF")
+        return readDefined(family, word, nullptr, container);
+
+    const std::string name(m_text.readWord());
+    if (name.empty())
+        return m_in.postError("a name after DEF");
+    const std::string_view typeName = m_text.readWord();
+    if (typeName.empty())
+        return m_in.postError("a node type after DEF and a name");
+    return readDefined(family, typeName, &name, container);
+}
+
+bool SceneReader::readUse(SoFieldContainer*& container, std::string_view& outputName)
+{
+    m_text.skipSpace();
+    const char* place = m_text.position();
+    const std::string_view word = m_text.readWord();
+    auto found = m_definitions.find(std::string(word));
+    if (found == m_definitions.end()) {
+        // In a connection the name of the node and the name of its output form one word.
+        const std::size_t point = word.rfind('.');
+        if (point != std::string_view::npos) {
+            found = m_definitions.find(std::string(word.substr(0, point)));
+            outputName = word.substr(point + 1);
+        }
+    }
+    if (found == m_definitions.end())
+        return m_in.postErrorAt(place, "USE of " + quoted(word) + ", which no DEF before it defines");
+    if (found->second.isOpen)
+        return m_in.postErrorAt(place,
+                                "USE of " + quoted(word) +
+                                    " inside its own definition; a graph cannot contain itself, the reference is "
+                                    "left out");
+    container = found->second.container;
+    return true;
+}
+
+bool SceneReader::readDefined(SoType family, std::string_view typeName, const std::string* name,
+                              SoFieldContainer*& container)
+{
+    m_text.skipSpace();
+    const char* opening = m_text.position();
+    if (!m_text.accept('{'))
+        return m_in.postError(("\"{\" after the type name " + quoted(typeName)).c_str());
+
+    const DepthGuard guard(m_depth);
+    if (guard.depth() > MaxDepth) {
+        m_in.postErrorAt(opening, "more than " + std::to_string(MaxDepth) + " nodes inside each other; " +
+                                      quoted(typeName) + " and what it holds is left out");
+        m_text.skipBlock('{', '}');
+        return false;
+    }
+
+    const SoType type = SoType::fromName(SbName(typeName));
+    const bool isKnown =
+        type.isDerivedFrom(family) && type.canCreateInstance() && type != SoUnknownNode::getClassTypeId();
+    if (!isKnown && type.isDerivedFrom(SoFieldContainer::getClassTypeId())) {
+        m_in.postErrorAt(opening, "a " + std::string(family.getName().getView()) + " is expected here, and " +
+                                      quoted(typeName) + " is none");
+        m_text.skipBlock('{', '}');
+        return false;
+    }
+    SoUnknownNode* unknown = nullptr;
+    if (isKnown) {
+        container = static_cast<SoFieldContainer*>(type.createInstance());
+    } else {
+        container = unknown = new SoUnknownNode;
+        unknown->setNodeTypeName(std::string(typeName));
+    }
+    keep(container);
+    if (name) {
+        if (const std::string_view plain = withoutSuffix(*name); !plain.empty())
+            container->setName(SbName(plain));
+        m_definitions[*name] = {container, true};
+    }
+
+    // Nobody listens to a node that is not part of a graph yet.
+    container->enableNotify(false);
+    if (unknown)
+        readUnknown(*unknown, opening);
+    else
+        readBody(*container, opening);
+    container->enableNotify(true);
+    if (name)
+        m_definitions[*name] = {container, false};
+    if (container->isOfType(SoNode::getClassTypeId()))
+        static_cast<SoNode*>(container)->readFinished(m_in);
+    m_in.updateProgress();
+    return true;
+}
+
+bool SceneReader::readBody(SoFieldContainer& container, const char* opening)
+{
+    auto* node = container.isOfType(SoNode::getClassTypeId()) ? static_cast<SoNode*>(&container) : nullptr;
+    const bool takesChildren = node && node->hasFileChildren();
+    for (;;) {
+        const char next = m_text.peek();
+        if (next == '}') {
+            m_text.accept('}');
+            return true;
+        }
+        if (!next) {
+            return postMissingBrace(container.getTypeId().getName().getView(), opening);
+        }
+        const char* start = m_text.position();
+        const std::string_view word = m_text.readWord();
+        bool good = true;
+        if (SoField* field = word.empty() ? nullptr : container.getField(SbName(word))) {
+            good = readField(*field);
+        } else {
+            m_text.setPosition(start);
+            if (word.empty()) {
+                good = m_in.postError("a field name, a node or \"}\"");
+            } else if (takesChildren && isNodeAhead()) {
+                readChild(*node);
+            } else {
+                m_in.postErrorAt(start, quoted(word) + " is no field of " +
+                                            std::string(container.getTypeId().getName().getView()) +
+                                            (isNodeAhead() ? ", and it has no children" : "") + "; it is passed over");
+                if (isNodeAhead()) {
+                    SoFieldContainer* ignored = nullptr;
+                    readContainer(SoNode::getClassTypeId(), ignored);
+                } else {
+                    m_text.readWord();
+                    skipUnknownField(container);
+                }
+            }
+        }
+        if (!good) {
+            m_text.skipBlock('{', '}');
+            return false;
+        }
+    }
+}
+
+bool SceneReader::postMissingBrace(std::string_view typeName, const char* opening)
+{
+    const TextReader::Location location = m_text.locate(opening);
+    return m_in.postErrorAt(m_text.end(), "the closing brace of the " + std::string(typeName) +
+                                              " that begins in line " + std::to_string(location.line) + " is missing");
+}
+
+bool SceneReader::readChild(SoNode& parent)
+{
+    SoFieldContainer* child = nullptr;
+    if (!readContainer(SoNode::getClassTypeId(), child))
+        return false;
+    if (child && child->isOfType(SoNode::getClassTypeId()))
+        parent.getChildren()->append(static_cast<SoNode*>(child));
+    return true;
+}
+
+bool SceneReader::isNodeAhead()
+{
+    const char* start = m_text.position();
+    const std::string_view word = m_text.readWord();
+    bool ahead = false;
+    if (word == "USE" || word == "DEF")
+        ahead = !m_text.readWord().empty();
+    else
+        ahead = m_text.peek() == '{' || word == "NULL";
+    m_text.setPosition(start);
+    return ahead;
+}
+
+void SceneReader::skipUnknownField(const SoFieldContainer& container)
+{
+    while (const char next = m_text.peek()) {
+        if (next == '}')
+            return;
+        const char* start = m_text.position();
+        const std::string_view word = m_text.readWord();
+        const bool isField = !word.empty() && container.getField(SbName(word));
+        const bool isNode = !word.empty() && m_text.peek() == '{' && !SoType::fromName(SbName(word)).isBad();
+        m_text.setPosition(start);
+        if (isField || isNode || ((word == "DEF" || word == "USE") && isNodeAhead()))
+            return;
+        m_text.skipItem();
+    }
+}
+
+bool SceneReader::readFields(SoFieldContainer& container)
+{
+    while (m_text.peek()) {
+        const char* start = m_text.position();
+        const std::string_view word = m_text.readWord();
+        SoField* field = word.empty() ? nullptr : container.getField(SbName(word));
+        if (!field) {
+            m_text.setPosition(start);
+            return m_in.postError("the name of a field");
+        }
+        if (!readField(*field))
+            return false;
+    }
+    return true;
+}
+
+bool SceneReader::readField(SoField& field)
+{
+    const char next = m_text.peek();
+    if (next != '~' && next != '=') {
+        if (!field.readValue(m_in))
+            return false;
+        field.setDefault(false);
+    }
+    if (m_text.accept('~'))
+        field.setIgnored(true);
+    return m_text.peek() != '=' || readConnection(field);
+}
+
+bool SceneReader::readConnection(SoField& field)
+{
+    m_text.accept('=');
+    m_text.skipSpace();
+    const char* start = m_text.position();
+    SoFieldContainer* source = nullptr;
+    SoField* global = nullptr;
+    std::string_view outputName;
+    const std::string_view word = m_text.readWord();
+    if (word == "USE") {
+        if (!readUse(source, outputName))
+            return true;
+    } else if (word == "GlobalField") {
+        if (!readGlobal(global))
+            return false;
+        source = global->getContainer();
+    } else {
+        m_text.setPosition(start);
+        if (!readContainer(SoFieldContainer::getClassTypeId(), source))
+            return false;
+    }
+    if (outputName.empty()) {
+        const std::string_view rest = m_text.readWord();
+        outputName = rest == "." ? m_text.readWord() : rest.substr(rest.empty() || rest.front() != '.' ? 0 : 1);
+    }
+    if (!source || outputName.empty())
+        return m_in.postErrorAt(start, "expected a node, a point and the name of its field or output to connect to");
+
+    const SbName name(outputName);
+    SoEngineOutput* output =
+        source->isOfType(SoEngine::getClassTypeId()) ? static_cast<SoEngine*>(source)->getOutput(name) : nullptr;
+    SoField* master = output ? nullptr : source->getField(name);
+    if (!(output && field.connectFrom(output)) && !(master && field.connectFrom(master))) {
+        m_in.postErrorAt(start, "there is nothing to connect to under the name " + quoted(outputName) +
+                                    ", or its type does not fit");
+    }
+    return true;
+}
+
+bool SceneReader::readPath(SoPath*& path)
+{
+    path = nullptr;
+    m_text.skipSpace();
+    const std::string_view word = m_text.readWord();
+    if (word == "NULL")
+        return true;
+    if (word != "Path" || !m_text.accept('{'))
+        return m_in.postError("Path and \"{\", or NULL");
+    SoFieldContainer* head = nullptr;
+    int count = 0;
+    bool good = readContainer(SoNode::getClassTypeId(), head) && m_in.readNumber(count);
+    if (good && head) {
+        path = new SoPath(static_cast<SoNode*>(head));
+        path->ref();
+        for (int i = 0; i < count && good; ++i) {
+            int index = 0;
+            good = m_in.readNumber(index);
+            if (good && !path->append(index)) {
+                m_in.postErrorAt(m_text.position(), "the path leads to child " + std::to_string(index) +
+                                                        ", which is not there; it is cut before it");
+                break;
+            }
+        }
+        path->unrefNoDelete();
+    }
+    if (!m_text.skipBlock('{', '}'))
+        m_in.postErrorAt(m_text.end(), "the closing brace of a Path is missing");
+    return good;
+}
+
+bool SceneReader::readGlobal(SoField*& field)
+{
+    m_text.skipSpace();
+    const char* start = m_text.position();
+    if (!m_text.accept('{'))
+        return m_in.postError("\"{\" after GlobalField");
+    const SoType type = SoType::fromName(SbName(m_text.readWord()));
+    const SbName name(m_text.readWord());
+    if (type.isDerivedFrom(SoField::getClassTypeId()) && !name.isEmpty())
+        field = SoDB::createGlobalField(name, type);
+    if (!field)
+        m_in.postErrorAt(start, "expected a field type and a name that no field of another type has");
+    else if (m_text.readWord() == name.getView() && !readField(*field))
+        field = nullptr;
+    if (!m_text.skipBlock('{', '}'))
+        return m_in.postErrorAt(m_text.end(), "the closing brace of a GlobalField is missing");
+    return field != nullptr;
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include <vexel/base/SoType.h>
+
+class SoField;
+class SoFieldContainer;
+class SoInput;
+class SoNode;
+class SoPath;
+class SoUnknownNode;
+class TextReader;
+
+/** Reads nodes, engines, paths and global fields of an ascii scene, and keeps the names that the scene defined so far.
+ */
+class SceneReader {
+public:
+    explicit SceneReader(SoInput& in);
+    SceneReader(const SceneReader&) = delete;
+    SceneReader& operator=(const SceneReader&) = delete;
+    ~SceneReader();
+
+    /** What may stand at the top of a file. */
+    enum class Item { Node, Path, Global, Nothing, Error };
+    /** Reads the next item; one reference is held on a node or path. */
+    Item readItem(SoNode*& node, SoPath*& path);
+
+    /** Reads a container derived from @p family, or NULL; held by the reader until it ends. False after an error. */
+    bool readContainer(SoType family, SoFieldContainer*& container);
+    bool readPath(SoPath*& path);
+    /** Reads fields until something else comes. */
+    bool readFields(SoFieldContainer& container);
+
+    /** Graphs deeper than this are not read: what lies below is left out with an error. */
+    static constexpr int MaxDepth = 1000;
+
+private:
+    struct Definition {
+        SoFieldContainer* container = nullptr;
+        bool isOpen = false;
+    };
+
+    bool readUse(SoFieldContainer*& container, std::string_view& outputName);
+    bool readDefined(SoType family, std::string_view typeName, const std::string* name, SoFieldContainer*& container);
+    bool readBody(SoFieldContainer& container, const char* opening);
+    bool readChild(SoNode& parent);
+    bool readField(SoField& field);
+    bool readConnection(SoField& field);
+    bool readUnknown(SoUnknownNode& node, const char* opening);
+    bool readDeclarations(SoUnknownNode& node);
+    void skipUnknownField(const SoFieldContainer& container);
+    bool isNodeAhead();
+    bool readGlobal(SoField*& field);
+    bool postMissingBrace(std::string_view typeName, const char* opening);
+    void keep(SoFieldContainer* container);
+
+    SoInput& m_in;
+    TextReader& m_text;
+    std::unordered_map<std::string, Definition> m_definitions;
+    // One reference on everything made, so that a part of the graph outlives an error in what should hold it.
+    std::vector<SoFieldContainer*> m_kept;
+    int m_depth = 0;
+};

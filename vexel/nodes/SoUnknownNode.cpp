@@ -1,0 +1,39 @@
+#include <vexel/nodes/SoUnknownNode.h>
+
+#include <vexel/actions/SoAction.h>
+#include <vexel/fields/SoField.h>
+
+SoUnknownNode::SoUnknownNode() = default;
+
+SoUnknownNode::~SoUnknownNode() = default;
+
+SoField* SoUnknownNode::addField(SoType type, const SbName& name)
+{
+    if (!type.isDerivedFrom(SoField::getClassTypeId()) || m_fieldData.getIndex(name) >= 0)
+        return nullptr;
+    std::unique_ptr<SoField> field(static_cast<SoField*>(type.createInstance()));
+    if (!field)
+        return nullptr;
+    field->setContainer(this);
+    m_fieldData.appendUnordered(this, name, field.get());
+    m_fields.push_back(std::move(field));
+    m_isDeclared = true;
+    return m_fields.back().get();
+}
+
+void SoUnknownNode::doAction(SoAction& action)
+{
+    action.traverseChildren(m_children);
+}
+
+void SoUnknownNode::copyContents(const SoNode& from, SoCopyMap& copies)
+{
+    const auto& source = static_cast<const SoUnknownNode&>(from);
+    m_typeName = source.m_typeName;
+    m_bodyText = source.m_bodyText;
+    m_baseTypes = source.m_baseTypes;
+    m_isDeclared = source.m_isDeclared;
+    for (int i = 0; i < source.m_fieldData.getNumFields(); ++i)
+        addField(source.m_fieldData.getField(&source, i)->getTypeId(), source.m_fieldData.getFieldName(i));
+    SoNode::copyContents(from, copies);
+}
