@@ -7,6 +7,7 @@
 #include <vexel/base/VexelApi.h>
 #include <vexel/state/SoState.h>
 
+class SoCamera;
 class SoChildList;
 class SoNode;
 class SoPath;
@@ -66,6 +67,9 @@ public:
     bool isOnPath() const;
     /** Child of the present node that the path leads to; -1 when it does not go on through a child. */
     int getPathChild() const;
+
+    /** The path that the action works on; null while it works on a whole graph. */
+    SoPath* getPathAppliedTo() const { return m_path; }
 
     /** True once the action has all it wants; nodes stop at once. */
     bool hasTerminated() const { return m_terminated; }

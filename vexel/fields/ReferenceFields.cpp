@@ -71,10 +71,15 @@ void SoSingleReferenceField::writeValue(SoOutput& out) const
     writeReference(out, getBase());
 }
 
-void SoSingleReferenceField::forEachReference(const std::function<void(SoBase*)>& visit) const
+std::vector<SoBase*> SoSingleReferenceField::getReferences() const
 {
-    if (SoBase* object = getBase())
-        visit(object);
+    return {getBase()};
+}
+
+void SoSingleReferenceField::setReferences(const std::vector<SoBase*>& objects)
+{
+    SoBase* object = objects.empty() ? nullptr : objects.front();
+    setBase(object && object->isOfType(getReferenceType()) ? object : nullptr);
 }
 
 void SoSingleReferenceField::remapReferences(SoCopyMap& copies)
@@ -223,13 +228,20 @@ void SoMultiReferenceField::write1Value(SoOutput& out, int index) const
     writeReference(out, m_objects[static_cast<std::size_t>(index)]);
 }
 
-void SoMultiReferenceField::forEachReference(const std::function<void(SoBase*)>& visit) const
+std::vector<SoBase*> SoMultiReferenceField::getReferences() const
 {
     evaluate();
-    for (SoBase* object : m_objects) {
-        if (object)
-            visit(object);
+    return m_objects;
+}
+
+void SoMultiReferenceField::setReferences(const std::vector<SoBase*>& objects)
+{
+    std::vector<SoBase*> fitting = objects;
+    for (SoBase*& object : fitting) {
+        if (object && !object->isOfType(getReferenceType()))
+            object = nullptr;
     }
+    setBases(std::move(fitting));
 }
 
 void SoMultiReferenceField::remapReferences(SoCopyMap& copies)

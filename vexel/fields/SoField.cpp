@@ -26,9 +26,9 @@ SoField::~SoField()
         return;
     for (SoDataSensor* sensor : std::vector<SoDataSensor*>(m_links->sensors))
         sensor->sourceDestroyed();
-    disconnect();
+    cutConnection();
     for (SoField* follower : std::vector<SoField*>(m_links->followers))
-        follower->disconnect();
+        follower->cutConnection();
 }
 
 SoType SoField::getClassTypeId()
@@ -117,7 +117,22 @@ SbString SoMField::get1(int index) const
     return SbString(std::string_view(out.getText()));
 }
 
-void SoField::forEachReference(const std::function<void(SoBase*)>&) const {}
+std::vector<SoBase*> SoField::getReferences() const
+{
+    return {};
+}
+
+void SoField::setReferences(const std::vector<SoBase*>&) {}
+
+bool SoField::getRawValues(RawValues&) const
+{
+    return false;
+}
+
+bool SoField::setRawValues(const RawValues&)
+{
+    return false;
+}
 
 void SoField::remapReferences(SoCopyMap&) {}
 
@@ -210,6 +225,18 @@ void SoField::disconnect()
     if (!m_links)
         return;
     evaluate();
+    cutConnection();
+}
+
+void SoField::cutFollowers()
+{
+    for (SoField* follower : std::vector<SoField*>(m_links->followers))
+        follower->disconnect();
+}
+
+void SoField::cutConnection()
+{
+    setFlag(Stale, false);
     if (SoField* source = m_links->sourceField) {
         auto& followers = source->m_links->followers;
         followers.erase(std::find(followers.begin(), followers.end(), this));
@@ -246,7 +273,8 @@ void SoField::enableConnection(bool on)
 
 void SoField::sourceChanged()
 {
-    if (!isConnectionEnabled())
+    // A field whose own change comes back to it around a circle of connections keeps its value.
+    if (!isConnectionEnabled() || hasFlag(Notifying))
         return;
     setFlag(Stale, true);
     touch();

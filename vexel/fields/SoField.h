@@ -1,7 +1,7 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <vector>
 
@@ -103,8 +103,27 @@ public:
     virtual bool readValue(SoInput& in) = 0;
     virtual void writeValue(SoOutput& out) const = 0;
 
-    /** Calls @p visit for each object that the field refers to; fields of plain values refer to none. */
-    virtual void forEachReference(const std::function<void(SoBase*)>& visit) const;
+    /** True for fields whose values are shared objects: nodes, paths, engines. */
+    virtual bool holdsReferences() const { return false; }
+    /** The objects that such a field refers to, null for none. */
+    virtual std::vector<SoBase*> getReferences() const;
+    /** Makes a field refer to these objects; ones of a wrong type count as null. */
+    virtual void setReferences(const std::vector<SoBase*>& objects);
+
+    /** Numbers that stand one after the other in memory, as files keep them. */
+    struct RawValues {
+        const void* data = nullptr;
+        std::size_t numValues = 0;
+        /** What one value consists of. */
+        std::uint8_t numComponents = 0;
+        std::uint8_t bytesPerComponent = 0;
+        bool isFloatingPoint = false;
+    };
+    /** Answers the values of a list of numbers or vectors; false for fields that only have a text. */
+    virtual bool getRawValues(RawValues& raw) const;
+    /** Takes such values over; false, with nothing changed, when they are not of the field's kind. */
+    virtual bool setRawValues(const RawValues& raw);
+
     /** After its container was copied: exchanges the objects the field refers to for their copies. */
     virtual void remapReferences(SoCopyMap& copies);
 
@@ -123,6 +142,16 @@ public:
 protected:
     /** A field of @p container, registered there under @p name; or a field of its own when both are null. */
     SoField(SoFieldContainer* container, const char* name);
+
+    /**
+     * To be called by the destructor of each concrete class, while its value is still there: followers take it over
+     * before they are cut off.
+     */
+    void giveLastValue()
+    {
+        if (m_links)
+            cutFollowers();
+    }
 
     /** To be called after the value was changed: it is no default any more, and listeners are told. */
     void valueChanged(SoTriggerType type = SO_TRIGGER_UNSPECIFIED);
@@ -149,6 +178,8 @@ private:
     SoFieldLinks& links();
     void sourceChanged();
     void evaluateConnection() const;
+    void cutConnection();
+    void cutFollowers();
 
     SoFieldContainer* m_container;
     std::unique_ptr<SoFieldLinks> m_links;

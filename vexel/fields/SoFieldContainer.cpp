@@ -64,6 +64,7 @@ bool SoFieldContainer::set(const SbString& text)
 {
     const QByteArray bytes = text.toUtf8();
     SoInput in;
+    in.setQuiet(true);
     in.setBuffer(bytes.constData(), static_cast<std::size_t>(bytes.size()));
     return in.readFields(*this);
 }

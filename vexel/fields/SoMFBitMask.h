@@ -6,6 +6,7 @@
 class VEXEL_API SoMFBitMask : public SoMFEnum {
 public:
     using SoMFEnum::SoMFEnum;
+    ~SoMFBitMask() override { giveLastValue(); }
     static SoType getClassTypeId();
     SoType getTypeId() const override;
 

@@ -9,6 +9,7 @@ extern template class SoMultiField<int>;
 class VEXEL_API SoMFEnum : public SoMultiField<int> {
 public:
     SoMFEnum() : SoMultiField<int>(nullptr, nullptr) {}
+    ~SoMFEnum() override { giveLastValue(); }
     SoMFEnum(SoFieldContainer* container, const char* name, const EnumTable& enums)
         : SoMultiField<int>(container, name), m_enums(enums)
     {

@@ -7,6 +7,7 @@ class VEXEL_API SoSFBitMask : public SoSFEnum {
 public:
     using SoSFEnum::SoSFEnum;
     using SoSFEnum::operator=;
+    ~SoSFBitMask() override { giveLastValue(); }
     static SoType getClassTypeId();
     SoType getTypeId() const override;
 

@@ -9,6 +9,7 @@ class SbName;
 class VEXEL_API SoSFEnum : public SoSField {
 public:
     SoSFEnum() : SoSField(nullptr, nullptr) {}
+    ~SoSFEnum() override { giveLastValue(); }
     SoSFEnum(SoFieldContainer* container, const char* name, int value, const EnumTable& enums)
         : SoSField(container, name), m_enums(enums), m_value(value)
     {

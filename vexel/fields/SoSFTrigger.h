@@ -6,6 +6,7 @@
 class VEXEL_API SoSFTrigger : public SoSField {
 public:
     SoSFTrigger() : SoSField(nullptr, nullptr) {}
+    ~SoSFTrigger() override { giveLastValue(); }
     SoSFTrigger(SoFieldContainer* container, const char* name) : SoSField(container, name) {}
     static SoType getClassTypeId();
     SoType getTypeId() const override;

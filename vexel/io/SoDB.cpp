@@ -15,7 +15,6 @@
 #include <vexel/io/SoInput.h>
 #include <vexel/io/SoOutput.h>
 #include <vexel/io/detail/GlobalFields.h>
-#include <vexel/io/detail/SceneReader.h>
 #include <vexel/nodes/SoSeparator.h>
 #include <vexel/nodes/detail/NodeTypes.h>
 #include <vexel/sensors/SoSensorManager.h>
@@ -134,32 +133,32 @@ SbString SoDB::getVersion()
     return SbString("Vexel " VEXEL_VERSION);
 }
 
+namespace {
+
+// The next object of the class Object; others are an error.
+template <class Object, class Read>
+bool readOne(Object*& object, Read&& read)
+{
+    SoBase* base = nullptr;
+    object = nullptr;
+    if (!read(base))
+        return false;
+    if (base && !base->isOfType(Object::getClassTypeId()))
+        return false;
+    object = static_cast<Object*>(base);
+    return true;
+}
+
+} // namespace
+
 bool SoDB::read(SoInput* in, SoNode*& root)
 {
-    SoPath* path = nullptr;
-    switch (in->sceneReader().readItem(root, path)) {
-    case SceneReader::Item::Node:
-    case SceneReader::Item::Nothing:
-        return true;
-    case SceneReader::Item::Global:
-        return read(in, root);
-    default:
-        return false;
-    }
+    return readOne(root, [in](SoBase*& base) { return in->readItem(base) != SoInput::Item::Error; });
 }
 
 bool SoDB::read(SoInput* in, SoPath*& path)
 {
-    SoNode* node = nullptr;
-    switch (in->sceneReader().readItem(node, path)) {
-    case SceneReader::Item::Path:
-    case SceneReader::Item::Nothing:
-        return true;
-    case SceneReader::Item::Global:
-        return read(in, path);
-    default:
-        return false;
-    }
+    return readOne(path, [in](SoBase*& base) { return in->readItem(base) != SoInput::Item::Error; });
 }
 
 SoSeparator* SoDB::readAll(SoInput* in)
@@ -169,15 +168,13 @@ SoSeparator* SoDB::readAll(SoInput* in)
     auto* root = new SoSeparator;
     root->ref();
     root->enableNotify(false);
-    SceneReader& reader = in->sceneReader();
-    SoNode* node = nullptr;
-    SoPath* path = nullptr;
+    SoBase* base = nullptr;
     for (;;) {
-        const SceneReader::Item item = reader.readItem(node, path);
-        if (item == SceneReader::Item::Nothing)
+        const SoInput::Item item = in->readItem(base);
+        if (item == SoInput::Item::Nothing)
             break;
-        if (item == SceneReader::Item::Node && node)
-            root->addChild(node);
+        if (item == SoInput::Item::Object && base && base->isOfType(SoNode::getClassTypeId()))
+            root->addChild(static_cast<SoNode*>(base));
     }
     root->enableNotify(true);
     in->postErrorCount();

@@ -12,6 +12,7 @@
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoReadError.h>
 #include <vexel/fields/SoFieldContainer.h>
+#include <vexel/io/detail/BinaryReader.h>
 #include <vexel/io/detail/FileContent.h>
 #include <vexel/io/detail/Header.h>
 #include <vexel/io/detail/SceneReader.h>
@@ -79,6 +80,7 @@ void SoInput::setText(const char* data, std::size_t size)
 void SoInput::closeFile()
 {
     m_reader.reset();
+    m_binaryReader.reset();
     m_text = TextReader();
     m_content.reset();
     m_fileName = SbString();
@@ -92,7 +94,7 @@ SbString SoInput::getCurFileName() const
 
 bool SoInput::eof()
 {
-    return m_text.peek() == 0;
+    return !isBinary() && m_text.peek() == 0;
 }
 
 void SoInput::addDirectoryFirst(const SbString& directory)
@@ -178,6 +180,15 @@ bool SoInput::postErrorAt(const char* place, const std::string& message)
     return false;
 }
 
+bool SoInput::postErrorAtByte(std::size_t byte, const char* message)
+{
+    ++m_errors;
+    if (!m_quiet && m_errors <= MostErrorsPosted)
+        SoReadError::post(m_fileName.isEmpty() ? SbString("binary scene") : m_fileName, "at byte %zu: %s", byte,
+                          message);
+    return false;
+}
+
 bool SoInput::checkHeader()
 {
     // A text in memory may come without a header, from a clipboard for one; a file may not.
@@ -194,19 +205,52 @@ bool SoInput::checkHeader()
     return true;
 }
 
+SoInput::Item SoInput::readItem(SoBase*& base)
+{
+    base = nullptr;
+    if (isBinary()) {
+        if (!m_binaryReader) {
+            m_binaryReader = std::make_unique<BinaryReader>(*this, m_text.position(),
+                                                            static_cast<std::size_t>(m_text.end() - m_text.position()));
+            if (!m_binaryReader->open())
+                m_text.setPosition(m_text.end());
+        }
+        if (m_text.position() == m_text.end())
+            return Item::Nothing;
+        if (!m_binaryReader->readItem(base))
+            return Item::Error;
+        return base ? Item::Object : Item::Nothing;
+    }
+    SoNode* node = nullptr;
+    SoPath* path = nullptr;
+    for (;;) {
+        switch (sceneReader().readItem(node, path)) {
+        case SceneReader::Item::Global:
+            break;
+        case SceneReader::Item::Nothing:
+            return Item::Nothing;
+        case SceneReader::Item::Error:
+            return Item::Error;
+        default:
+            base = node ? static_cast<SoBase*>(node) : path;
+            return Item::Object;
+        }
+    }
+}
+
 void SoInput::postErrorCount()
 {
     if (m_errors > MostErrorsPosted && !m_quiet)
         SoReadError::post(m_fileName, "%d errors in all; only the first %d were reported", m_errors, MostErrorsPosted);
 }
 
-void SoInput::reportProgress()
+void SoInput::reportProgress(const char* position)
 {
     const auto size = m_text.end() - m_text.begin();
     if (size <= 0)
         return;
-    m_nextProgress = m_text.position() + std::max<std::ptrdiff_t>(size / 100, 1 << 16);
-    progressChanged(100.0 * static_cast<double>(m_text.position() - m_text.begin()) / static_cast<double>(size));
+    m_nextProgress = position + std::max<std::ptrdiff_t>(size / 100, 1 << 16);
+    progressChanged(100.0 * static_cast<double>(position - m_text.begin()) / static_cast<double>(size));
 }
 
 void SoInput::progressChanged(double) {}

@@ -11,7 +11,9 @@
 #include <vexel/io/detail/TextReader.h>
 
 class SoFieldContainer;
+class BinaryReader;
 class FileContent;
+class SoBase;
 class SceneReader;
 
 /**
@@ -71,12 +73,15 @@ public:
     bool postError(const char* expected);
     /** Posts a read error with a message of its own, at @p place in the text. Always false. */
     bool postErrorAt(const char* place, const std::string& message);
+    /** The same for a binary scene, by the number of the byte behind its header line. */
+    bool postErrorAtByte(std::size_t byte, const char* message);
     int getNumErrors() const { return m_errors; }
     /** Tells how far the text was read, when that is worth telling; to be called often in long lists. */
-    void updateProgress()
+    void updateProgress() { updateProgress(m_text.position()); }
+    void updateProgress(const char* position)
     {
-        if (m_text.position() >= m_nextProgress)
-            reportProgress();
+        if (position >= m_nextProgress)
+            reportProgress(position);
     }
 
     /** The fields of @p container, to the end of the text or of the enclosing block. */
@@ -90,15 +95,21 @@ protected:
 private:
     friend class SoDB;
 
+    /** What an input holds at its top level. */
+    enum class Item { Object, Nothing, Error };
+
     void setText(const char* data, std::size_t size);
     bool checkHeader();
-    void reportProgress();
+    /** Reads the next node or path; it is held until the input is closed. */
+    Item readItem(SoBase*& base);
+    void reportProgress(const char* position);
     void postErrorCount();
 
     TextReader m_text;
     const char* m_nextProgress = nullptr;
     std::unique_ptr<FileContent> m_content;
     std::unique_ptr<SceneReader> m_reader;
+    std::unique_ptr<BinaryReader> m_binaryReader;
     std::vector<SbString> m_directories;
     SbString m_fileName;
     int m_errors = 0;

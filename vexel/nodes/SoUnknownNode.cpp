@@ -26,14 +26,19 @@ void SoUnknownNode::doAction(SoAction& action)
     action.traverseChildren(m_children);
 }
 
+void SoUnknownNode::copyDeclarations(const SoUnknownNode& from)
+{
+    m_bodyText = from.m_bodyText;
+    m_baseTypes = from.m_baseTypes;
+    m_isDeclared = from.m_isDeclared;
+    for (int i = 0; i < from.m_fieldData.getNumFields(); ++i)
+        addField(from.m_fieldData.getField(&from, i)->getTypeId(), from.m_fieldData.getFieldName(i));
+}
+
 void SoUnknownNode::copyContents(const SoNode& from, SoCopyMap& copies)
 {
     const auto& source = static_cast<const SoUnknownNode&>(from);
     m_typeName = source.m_typeName;
-    m_bodyText = source.m_bodyText;
-    m_baseTypes = source.m_baseTypes;
-    m_isDeclared = source.m_isDeclared;
-    for (int i = 0; i < source.m_fieldData.getNumFields(); ++i)
-        addField(source.m_fieldData.getField(&source, i)->getTypeId(), source.m_fieldData.getFieldName(i));
+    copyDeclarations(source);
     SoNode::copyContents(from, copies);
 }

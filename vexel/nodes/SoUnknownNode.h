@@ -34,6 +34,9 @@ public:
     const std::string& getBodyText() const { return m_bodyText; }
     void setBodyText(std::string text) { m_bodyText = std::move(text); }
 
+    /** Takes over declared fields, without their values, base types and text of another node. */
+    void copyDeclarations(const SoUnknownNode& from);
+
     SoChildList* getChildren() const override { return &m_children; }
     bool hasFileChildren() const override { return true; }
     void doAction(SoAction& action) override;

@@ -64,7 +64,7 @@ TEST_F(Error, EachKindReachesItsOwnHandlerInOrder)
     SoErrorStack::post("cannot go on");
     SoDebugError::postWarning("SoA::b", "w");
     SoDebugError::postInfo("SoA::b", "i");
-    EXPECT_EQ(texts, Texts({"R|Read error in a.vx, line 3: unknown word \"Cubex\"", "E|1 of 2",
+    EXPECT_EQ(texts, Texts({"R|a.vx, line 3: unknown word \"Cubex\"", "E|1 of 2",
                             "D|Error in SoGroup::addChild: no child", "S|Critical error: cannot go on",
                             "D|Warning in SoA::b: w", "D|Information from SoA::b: i"}));
 }

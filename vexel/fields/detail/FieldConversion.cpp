@@ -89,7 +89,7 @@ bool canConvertField(SoType from, SoType to)
     if (!source || !target)
         return false;
     const SbString text = source->get();
-    const bool convertible = target->set(text) || !numbersOf(text).empty();
+    const bool convertible = target->set(text) || target->set(joined(numbersOf(text), to));
     delete source;
     delete target;
     return convertible;

@@ -8,6 +8,27 @@
 
 // The bodies of the field templates; included only where the concrete fields are instantiated.
 
+/** What a value is in memory; no components for one that is more than its numbers. */
+template <class Value>
+SoField::RawValues rawKind()
+{
+    SoField::RawValues kind;
+    if constexpr (std::is_arithmetic_v<Value>) {
+        kind.numComponents = 1;
+        kind.bytesPerComponent = sizeof(Value);
+        kind.isFloatingPoint = std::is_floating_point_v<Value>;
+    } else if constexpr (IsVector<Value>::value) {
+        kind.numComponents = Value::Size;
+        kind.bytesPerComponent = sizeof(typename Value::Component);
+        kind.isFloatingPoint = std::is_floating_point_v<typename Value::Component>;
+    } else if constexpr (std::is_same_v<Value, SbRotation> || std::is_same_v<Value, SbMatrix>) {
+        kind.numComponents = sizeof(Value) / sizeof(float);
+        kind.bytesPerComponent = sizeof(float);
+        kind.isFloatingPoint = true;
+    }
+    return kind;
+}
+
 template <class Value>
 bool SoSingleField<Value>::isSame(const SoField& other) const
 {
@@ -173,4 +194,28 @@ template <class Value>
 void SoMultiField<Value>::write1Value(SoOutput& out, int index) const
 {
     writeText(out, static_cast<const Value&>(m_values[static_cast<std::size_t>(index)]));
+}
+
+template <class Value>
+bool SoMultiField<Value>::getRawValues(RawValues& raw) const
+{
+    raw = rawKind<Value>();
+    raw.data = getValues();
+    raw.numValues = m_values.size();
+    return raw.numComponents > 0;
+}
+
+template <class Value>
+bool SoMultiField<Value>::setRawValues(const RawValues& raw)
+{
+    constexpr bool IsPlain = std::is_trivially_copyable_v<Element>;
+    const RawValues kind = rawKind<Value>();
+    if (!IsPlain || kind.numComponents == 0 || raw.numComponents != kind.numComponents ||
+        raw.bytesPerComponent != kind.bytesPerComponent || raw.isFloatingPoint != kind.isFloatingPoint)
+        return false;
+    if constexpr (IsPlain) {
+        const auto* values = static_cast<const Element*>(raw.data);
+        setValues(std::vector<Element>(values, values + raw.numValues));
+    }
+    return true;
 }

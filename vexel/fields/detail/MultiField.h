@@ -62,6 +62,8 @@ public:
     void writeValue(SoOutput& out) const override;
     bool read1Value(SoInput& in, int index) override;
     void write1Value(SoOutput& out, int index) const override;
+    bool getRawValues(RawValues& raw) const override;
+    bool setRawValues(const RawValues& raw) override;
 
 protected:
     SoMultiField(SoFieldContainer* container, const char* name) : SoMField(container, name) {}
@@ -79,6 +81,10 @@ protected:
 #define SO_MFIELD(Class, Value)                                                                                        \
 public:                                                                                                                \
     Class() : Class(nullptr, nullptr) {}                                                                               \
+    ~Class() override                                                                                                  \
+    {                                                                                                                  \
+        giveLastValue();                                                                                               \
+    }                                                                                                                  \
     Class(SoFieldContainer* container, const char* name) : SoMultiField<Value>(container, name) {}                     \
     Class(SoFieldContainer* container, const char* name, const Value& value)                                           \
         : SoMultiField<Value>(container, name, value)                                                                  \

@@ -19,12 +19,16 @@ public:
     void copyFrom(const SoField& other) override;
     bool readValue(SoInput& in) override;
     void writeValue(SoOutput& out) const override;
-    void forEachReference(const std::function<void(SoBase*)>& visit) const override;
+    bool holdsReferences() const override { return true; }
+    std::vector<SoBase*> getReferences() const override;
+    void setReferences(const std::vector<SoBase*>& objects) override;
     void remapReferences(SoCopyMap& copies) override;
 
 protected:
     using SoSField::SoSField;
 
+    /** The class of the objects that the field may refer to. */
+    virtual SoType getReferenceType() const = 0;
     SoBase* getBase() const
     {
         evaluate();
@@ -51,13 +55,17 @@ public:
     void writeValue(SoOutput& out) const override;
     bool read1Value(SoInput& in, int index) override;
     void write1Value(SoOutput& out, int index) const override;
-    void forEachReference(const std::function<void(SoBase*)>& visit) const override;
+    bool holdsReferences() const override { return true; }
+    std::vector<SoBase*> getReferences() const override;
+    void setReferences(const std::vector<SoBase*>& objects) override;
     void remapReferences(SoCopyMap& copies) override;
 
 protected:
     using SoMField::SoMField;
 
     int getStoredNum() const override { return static_cast<int>(m_objects.size()); }
+    /** The class of the objects that the field may refer to. */
+    virtual SoType getReferenceType() const = 0;
     SoBase* getBase(int index) const
     {
         evaluate();
@@ -78,6 +86,10 @@ private:
 #define SO_REFERENCE_FIELD(Class, Object)                                                                              \
 public:                                                                                                                \
     Class() : Class(nullptr, nullptr) {}                                                                               \
+    ~Class() override                                                                                                  \
+    {                                                                                                                  \
+        giveLastValue();                                                                                               \
+    }                                                                                                                  \
     Class(SoFieldContainer* container, const char* name, Object* value = nullptr)                                      \
         : SoSingleReferenceField(container, name)                                                                      \
     {                                                                                                                  \
@@ -97,12 +109,19 @@ public:                                                                         
     Object* getValue() const;                                                                                          \
     void setValue(Object* value);                                                                                      \
                                                                                                                        \
+protected:                                                                                                             \
+    SoType getReferenceType() const override;                                                                          \
+                                                                                                                       \
 private:
 
 /** Declares a list field class that refers to objects of the class Object. */
 #define SO_REFERENCE_MFIELD(Class, Object)                                                                             \
 public:                                                                                                                \
     Class() : Class(nullptr, nullptr) {}                                                                               \
+    ~Class() override                                                                                                  \
+    {                                                                                                                  \
+        giveLastValue();                                                                                               \
+    }                                                                                                                  \
     Class(SoFieldContainer* container, const char* name) : SoMultiReferenceField(container, name) {}                   \
     static SoType getClassTypeId();                                                                                    \
     SoType getTypeId() const override;                                                                                 \
@@ -113,11 +132,18 @@ public:                                                                         
     void setValues(const std::vector<Object*>& values);                                                                \
     void set1Value(int index, Object* value);                                                                          \
                                                                                                                        \
+protected:                                                                                                             \
+    SoType getReferenceType() const override;                                                                          \
+                                                                                                                       \
 private:
 
 /** Defines what SO_REFERENCE_FIELD declared, where the class Object is known. */
 #define SO_REFERENCE_FIELD_SOURCE(Class, Object)                                                                       \
     SO_FIELD_SOURCE(Class, SoSField)                                                                                   \
+    SoType Class::getReferenceType() const                                                                             \
+    {                                                                                                                  \
+        return Object::getClassTypeId();                                                                               \
+    }                                                                                                                  \
     Object* Class::getValue() const                                                                                    \
     {                                                                                                                  \
         return static_cast<Object*>(getBase());                                                                        \
@@ -130,6 +156,10 @@ private:
 /** Defines what SO_REFERENCE_MFIELD declared. */
 #define SO_REFERENCE_MFIELD_SOURCE(Class, Object)                                                                      \
     SO_FIELD_SOURCE(Class, SoMField)                                                                                   \
+    SoType Class::getReferenceType() const                                                                             \
+    {                                                                                                                  \
+        return Object::getClassTypeId();                                                                               \
+    }                                                                                                                  \
     Object* Class::operator[](int index) const                                                                         \
     {                                                                                                                  \
         return static_cast<Object*>(getBase(index));                                                                   \

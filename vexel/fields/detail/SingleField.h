@@ -39,6 +39,10 @@ protected:
 #define SO_FIELD(Class, Value)                                                                                         \
 public:                                                                                                                \
     Class() : Class(nullptr, nullptr) {}                                                                               \
+    ~Class() override                                                                                                  \
+    {                                                                                                                  \
+        giveLastValue();                                                                                               \
+    }                                                                                                                  \
     Class(SoFieldContainer* container, const char* name, const Value& value = Value())                                 \
         : SoSingleField<Value>(container, name, value)                                                                 \
     {                                                                                                                  \

@@ -5,44 +5,66 @@
 
 namespace {
 
-// Axis and angle, or normal and distance, do not come back from a unit quaternion or unit normal to the last digit. The
-// writer therefore looks for the digits that reading and writing reproduce, so that a file written twice is the same.
+template <int N>
+struct NumberTexts {
+    NumberTexts(const float (&values)[N], int digits)
+    {
+        for (int i = 0; i < N; ++i) {
+            const float value = values[i] == 0.0f ? 0.0f : values[i];
+            const auto end = std::to_chars(characters[i], characters[i] + sizeof characters[i], value,
+                                           std::chars_format::general, digits);
+            lengths[i] = static_cast<std::size_t>(end.ptr - characters[i]);
+            std::from_chars(characters[i], end.ptr, numbers[i]);
+        }
+    }
+    void writeTo(SoOutput& out) const
+    {
+        for (int i = 0; i < N; ++i) {
+            if (i > 0)
+                out.write(' ');
+            out.write({characters[i], lengths[i]});
+        }
+    }
+
+    char characters[N][32];
+    std::size_t lengths[N];
+    float numbers[N];
+};
+
+template <int N>
+bool areSame(const float (&a)[N], const float (&b)[N])
+{
+    return std::equal(std::begin(a), std::end(a), std::begin(b));
+}
+
+// Axis and angle, or normal and distance, do not always come back from a unit quaternion or unit normal to the last
+// digit. The writer takes the fewest digits that reading turns into the same value; where there are none, the nearest
+// numbers of six digits that reading and writing reproduce. So a file that is read and written again is the same.
 template <int N, class Read>
 void writeReproducible(SoOutput& out, const float (&start)[N], Read&& readBack)
 {
-    constexpr int Digits = 7;
-    constexpr int Rounds = 12;
-    struct Text {
-        char characters[N][32];
-        std::size_t lengths[N];
-        float numbers[N];
-    };
-    const auto format = [](const float(&values)[N]) {
-        Text text;
-        for (int i = 0; i < N; ++i) {
-            const float value = values[i] == 0.0f ? 0.0f : values[i];
-            const auto end =
-                std::to_chars(text.characters[i], text.characters[i] + 32, value, std::chars_format::general, Digits);
-            text.lengths[i] = static_cast<std::size_t>(end.ptr - text.characters[i]);
-            std::from_chars(text.characters[i], end.ptr, text.numbers[i]);
+    constexpr int FewestDigits = 6;
+    constexpr int MostDigits = 9;
+    float values[N];
+    for (int digits = FewestDigits; digits <= MostDigits; ++digits) {
+        const NumberTexts<N> texts(start, digits);
+        readBack(texts.numbers, values);
+        if (areSame(values, start)) {
+            texts.writeTo(out);
+            return;
         }
-        return text;
-    };
-    Text text = format(start);
-    for (int round = 0; round < Rounds; ++round) {
-        float values[N];
-        readBack(text.numbers, values);
-        const Text again = format(values);
-        const bool same = std::equal(std::begin(text.numbers), std::end(text.numbers), std::begin(again.numbers));
-        text = again;
-        if (same)
+    }
+    constexpr int MostRounds = 20;
+    NumberTexts<N> texts(start, FewestDigits);
+    for (int round = 0; round < MostRounds; ++round) {
+        readBack(texts.numbers, values);
+        const NumberTexts<N> again(values, FewestDigits);
+        const bool isStable = areSame(again.numbers, texts.numbers);
+        texts = again;
+        if (isStable)
             break;
     }
-    for (int i = 0; i < N; ++i) {
-        if (i > 0)
-            out.write(' ');
-        out.write({text.characters[i], text.lengths[i]});
-    }
+    texts.writeTo(out);
 }
 
 // In double, and from the half angle's sine, so that small angles keep their digits.

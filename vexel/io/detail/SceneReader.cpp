@@ -312,9 +312,9 @@ bool SceneReader::readConnection(SoField& field)
     SoField* global = nullptr;
     std::string_view outputName;
     const std::string_view word = m_text.readWord();
+    bool isReported = false;
     if (word == "USE") {
-        if (!readUse(source, outputName))
-            return true;
+        isReported = !readUse(source, outputName);
     } else if (word == "GlobalField") {
         if (!readGlobal(global))
             return false;
@@ -324,10 +324,12 @@ bool SceneReader::readConnection(SoField& field)
         if (!readContainer(SoFieldContainer::getClassTypeId(), source))
             return false;
     }
-    if (outputName.empty()) {
+    if (outputName.empty() && m_text.peek() == '.') {
         const std::string_view rest = m_text.readWord();
         outputName = rest == "." ? m_text.readWord() : rest.substr(rest.empty() || rest.front() != '.' ? 0 : 1);
     }
+    if (isReported)
+        return true;
     if (!source || outputName.empty())
         return m_in.postErrorAt(start, "expected a node, a point and the name of its field or output to connect to");
 
@@ -371,6 +373,11 @@ bool SceneReader::readPath(SoPath*& path)
     if (!m_text.skipBlock('{', '}'))
         m_in.postErrorAt(m_text.end(), "the closing brace of a Path is missing");
     return good;
+}
+
+bool SceneReader::readGlobalField(SoField*& field)
+{
+    return m_text.readWord() == "GlobalField" && readGlobal(field);
 }
 
 bool SceneReader::readGlobal(SoField*& field)

@@ -32,6 +32,8 @@ public:
     /** Reads a container derived from @p family, or NULL; held by the reader until it ends. False after an error. */
     bool readContainer(SoType family, SoFieldContainer*& container);
     bool readPath(SoPath*& path);
+    /** Reads a global field with the word that introduces it. */
+    bool readGlobalField(SoField*& field);
     /** Reads fields until something else comes. */
     bool readFields(SoFieldContainer& container);
 

@@ -56,12 +56,14 @@ void SceneWriter::forEachHeld(const SoFieldContainer& container, Visit&& visit) 
         const SoField* field = data.getField(&container, i);
         if (!container.shouldWriteField(*field))
             continue;
-        field->forEachReference([&](SoBase* base) {
+        for (SoBase* base : field->getReferences()) {
+            if (!base)
+                continue;
             if (base->isOfType(SoFieldContainer::getClassTypeId()))
                 visit(static_cast<const SoFieldContainer*>(base));
             else if (base->isOfType(SoPath::getClassTypeId()) && static_cast<SoPath*>(base)->getHead())
                 visit(static_cast<const SoFieldContainer*>(static_cast<SoPath*>(base)->getHead()));
-        });
+        }
         if (const SoFieldContainer* source = sourceOf(*field))
             visit(source);
     }

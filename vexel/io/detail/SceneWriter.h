@@ -24,6 +24,9 @@ public:
     /** The fields that differ from their defaults, are ignored or connected. */
     void writeFields(const SoFieldContainer& container);
 
+    /** Declarations and kept text of an unknown node. */
+    void writeUnknownBody(const SoUnknownNode& node);
+
     /** The name under which an object is defined in the file; empty for one that needs none. */
     const std::string& nameOf(const SoFieldContainer* container);
 
@@ -38,8 +41,6 @@ private:
     template <class Visit>
     void forEachHeld(const SoFieldContainer& container, Visit&& visit) const;
     void writeBody(const SoFieldContainer& container);
-    void writeUnknownBody(const SoUnknownNode& node);
-    void writeField(const SoFieldContainer& container, const SoField& field, const char* name);
     void writeConnection(const SoField& field);
 
     SoOutput& m_out;
