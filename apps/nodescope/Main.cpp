@@ -12,6 +12,8 @@ namespace {
 
 int openWindow(const CommandLine& line, int argc, char** argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication application(argc, argv);
     SoCommandManager manager;
     SoNodescopeMainFrame frame;
