@@ -1,0 +1,226 @@
+#include <epoxy/gl.h>
+
+#include <benchmark/benchmark.h>
+
+#include "BareDrawing.h"
+#include "BenchShapes.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <memory>
+
+#include <vexel/render/DrawList.h>
+#include <vexel/render/GLContext.h>
+#include <vexel/render/OffscreenTarget.h>
+#include <vexel/render/RenderSurroundings.h>
+#include <vexel/render/Renderer.h>
+
+namespace vexel {
+namespace {
+
+constexpr int Width = 1208;
+constexpr int Height = 1024;
+constexpr int Objects = 20000;
+constexpr int Side = 142; // squared: a little more than the objects
+
+using Instances = std::vector<BareDrawing::Instance>;
+
+/** Places of the objects: a carpet over the picture, in an order that has nothing to do with space. */
+Instances carpet(int count)
+{
+    Instances instances(count);
+    for (int i = 0; i < count; ++i) {
+        const int cell = static_cast<int>((i * 7919LL) % Objects);
+        const float x = -0.98f + 1.96f * static_cast<float>(cell % Side) / Side;
+        const float y = -0.98f + 1.96f * static_cast<float>(cell / Side) / Side;
+        const float half = 0.006f;
+        instances[i] = {{half, 0, 0, x, 0, half, 0, y, 0, 0, half, 0}, {0.3f + 0.5f * (i % 7) / 7, 0.6f, 0.5f, 1}};
+    }
+    return instances;
+}
+
+RenderPacket packetFor(const std::shared_ptr<const RenderGeometry>& shape)
+{
+    RenderSurroundings::Values values;
+    RenderLight lamp;
+    lamp.direction = SbVec3f(-0.267f, -0.356f, -0.896f);
+    values.lights.push_back(lamp);
+    static const auto surroundings = std::make_shared<const RenderSurroundings>(values);
+    RenderPacket packet;
+    packet.geometry = shape;
+    packet.state.surroundings = surroundings;
+    return packet;
+}
+
+struct Scene {
+    DrawList list;
+    DrawList::Segment segment = list.addSegment({});
+    std::vector<DrawList::Packet> packets;
+    RenderView view;
+    Renderer renderer;
+
+    Scene()
+    {
+        view.viewport = {0, 0, Width, Height};
+        view.projection[2][2] = -1;
+    }
+
+    void addCarpet(const Instances& instances)
+    {
+        RenderPacket packet = packetFor(std::make_shared<const RenderGeometry>(sharpCube()));
+        for (const BareDrawing::Instance& instance : instances) {
+            for (int row = 0; row < 3; ++row) {
+                for (int column = 0; column < 4; ++column)
+                    packet.matrix[column][row] = instance.rows[row * 4 + column];
+            }
+            packet.material.diffuse = SbVec3f(instance.color[0], instance.color[1], instance.color[2]);
+            packets.push_back(list.add(segment, packet));
+        }
+    }
+
+    void draw() { renderer.draw(list, view); }
+};
+
+/** Alternates the two, so that a drifting machine drifts for both, and reports the ratio of their medians. */
+void compare(benchmark::State& state, const std::function<void()>& baseline, const std::function<void()>& ours)
+{
+    std::vector<double> times[2];
+    const std::function<void()>* const runs[] = {&baseline, &ours};
+    for (const auto* run : runs) {
+        (*run)();
+        glFinish();
+    }
+    for (auto _ : state) {
+        for (int which = 0; which < 2; ++which) {
+            const auto start = std::chrono::steady_clock::now();
+            (*runs[which])();
+            glFinish();
+            times[which].push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
+        }
+        state.SetIterationTime(times[1].back());
+    }
+    const auto median = [](std::vector<double>& values) {
+        std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+        return values[values.size() / 2];
+    };
+    const double base = median(times[0]);
+    const double own = median(times[1]);
+    state.counters["baseline_ms"] = base * 1e3;
+    state.counters["ours_ms"] = own * 1e3;
+    state.counters["ratio"] = own / base;
+}
+
+void MillionTriangles(benchmark::State& state)
+{
+    const OffscreenTarget target(Width, Height, static_cast<int>(state.range(0)));
+    const BareDrawing bare(bumpyBall(1000000));
+    Scene scene;
+    scene.list.add(scene.segment, packetFor(std::make_shared<const RenderGeometry>(bumpyBall(1000000))));
+    compare(
+        state, [&] { bare.draw(); }, [&] { scene.draw(); });
+    scene.renderer.release();
+}
+
+void TwentyThousandObjects(benchmark::State& state)
+{
+    const OffscreenTarget target(Width, Height);
+    const Instances instances = carpet(Objects);
+    const BareDrawing bare(sharpCube(), instances);
+    Scene scene;
+    scene.addCarpet(instances);
+    compare(
+        state, [&] { bare.draw(); }, [&] { scene.draw(); });
+    scene.renderer.release();
+}
+
+/** The lower tenth of the objects fills the picture; the baseline holds nothing but these. */
+void ZoomedToATenth(benchmark::State& state)
+{
+    const OffscreenTarget target(Width, Height);
+    const float edge = -0.98f + 0.196f;
+    SbMatrix zoom;
+    zoom[1][1] = 10;
+    zoom[3][1] = 8.8f;
+    Instances seen;
+    const Instances all = carpet(Objects);
+    for (BareDrawing::Instance instance : all) {
+        if (instance.rows[7] > edge)
+            continue;
+        for (int column = 0; column < 4; ++column)
+            instance.rows[4 + column] *= 10;
+        instance.rows[7] += 8.8f;
+        seen.push_back(instance);
+    }
+    const BareDrawing bare(sharpCube(), seen);
+    Scene scene;
+    scene.addCarpet(all);
+    scene.view.view = zoom;
+    compare(
+        state, [&] { bare.draw(); },
+        [&] {
+            // A camera that moves a little each frame: culling is part of the price.
+            scene.view.view[3][0] = scene.view.view[3][0] == 0 ? 1e-4f : 0;
+            scene.draw();
+        });
+    scene.renderer.release();
+}
+
+void OneChangedPacket(benchmark::State& state)
+{
+    const OffscreenTarget target(Width, Height);
+    Scene scene;
+    scene.addCarpet(carpet(Objects));
+    int next = 0;
+    compare(
+        state, [&] { scene.draw(); },
+        [&] {
+            RenderMaterial material;
+            material.diffuse = SbVec3f(1, 0, 0);
+            const DrawList::Packet packet = scene.packets[next++ * 37 % Objects];
+            scene.list.setMaterial(packet, material);
+            scene.draw();
+        });
+    scene.renderer.release();
+}
+
+void OneMovedPacket(benchmark::State& state)
+{
+    const OffscreenTarget target(Width, Height);
+    Scene scene;
+    scene.addCarpet(carpet(Objects));
+    int next = 0;
+    compare(
+        state, [&] { scene.draw(); },
+        [&] {
+            SbMatrix matrix;
+            matrix.setScale(0.01f + 0.001f * static_cast<float>(next % 5));
+            scene.list.setMatrix(scene.packets[next++ * 37 % Objects], matrix);
+            scene.draw();
+        });
+    scene.renderer.release();
+}
+
+BENCHMARK(MillionTriangles)->ArgName("samples")->Arg(1)->Arg(4)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(TwentyThousandObjects)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ZoomedToATenth)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(OneChangedPacket)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(OneMovedPacket)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+} // namespace vexel
+
+int main(int argc, char** argv)
+{
+    std::string error;
+    const auto context = vexel::GLContext::create(error);
+    if (!context) {
+        std::cerr << error << '\n';
+        return 1;
+    }
+    const vexel::GLContext::Scope scope(*context);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
