@@ -1,5 +1,6 @@
 #include <vexel/fields/detail/FieldTypes.h>
 
+#include <vexel/fields/SoBufferObject.h>
 #include <vexel/fields/SoMFBitMask.h>
 #include <vexel/fields/SoMFBool.h>
 #include <vexel/fields/SoMFColor.h>
@@ -8,6 +9,7 @@
 #include <vexel/fields/SoMFEngine.h>
 #include <vexel/fields/SoMFEnum.h>
 #include <vexel/fields/SoMFFloat.h>
+#include <vexel/fields/SoMFInstanceParameter.h>
 #include <vexel/fields/SoMFInt32.h>
 #include <vexel/fields/SoMFMatrix.h>
 #include <vexel/fields/SoMFName.h>
@@ -20,6 +22,7 @@
 #include <vexel/fields/SoMFTime.h>
 #include <vexel/fields/SoMFUInt32.h>
 #include <vexel/fields/SoMFUShort.h>
+#include <vexel/fields/SoMFUniformShaderParameter.h>
 #include <vexel/fields/SoMFVec2d.h>
 #include <vexel/fields/SoMFVec2f.h>
 #include <vexel/fields/SoMFVec2i32.h>
@@ -33,6 +36,9 @@
 #include <vexel/fields/SoMFVec4i32.h>
 #include <vexel/fields/SoMFVec4s.h>
 #include <vexel/fields/SoMField.h>
+#include <vexel/fields/SoSFArray.h>
+#include <vexel/fields/SoSFArray2D.h>
+#include <vexel/fields/SoSFArray3D.h>
 #include <vexel/fields/SoSFBitMask.h>
 #include <vexel/fields/SoSFBool.h>
 #include <vexel/fields/SoSFBox2f.h>
@@ -41,12 +47,16 @@
 #include <vexel/fields/SoSFBox3f.h>
 #include <vexel/fields/SoSFBox3i32.h>
 #include <vexel/fields/SoSFBox3s.h>
+#include <vexel/fields/SoSFBufferObject.h>
 #include <vexel/fields/SoSFColor.h>
 #include <vexel/fields/SoSFColorRGBA.h>
 #include <vexel/fields/SoSFDouble.h>
 #include <vexel/fields/SoSFEngine.h>
 #include <vexel/fields/SoSFEnum.h>
+#include <vexel/fields/SoSFFieldContainer.h>
 #include <vexel/fields/SoSFFloat.h>
+#include <vexel/fields/SoSFImage.h>
+#include <vexel/fields/SoSFImage3.h>
 #include <vexel/fields/SoSFInt32.h>
 #include <vexel/fields/SoSFMatrix.h>
 #include <vexel/fields/SoSFName.h>
@@ -86,13 +96,14 @@ void registerAll()
 
 void registerFieldTypes()
 {
-    registerAll<SoMFBitMask, SoMFBool, SoMFColor, SoMFColorRGBA, SoMFDouble, SoMFEngine, SoMFEnum, SoMFFloat, SoMFInt32,
-                SoMFMatrix, SoMFName, SoMFNode, SoMFPath, SoMFPlane, SoMFRotation, SoMFShort, SoMFString, SoMFTime,
-                SoMFUInt32, SoMFUShort, SoMFVec2d, SoMFVec2f, SoMFVec2i32, SoMFVec2s, SoMFVec3d, SoMFVec3f, SoMFVec3i32,
-                SoMFVec3s, SoMFVec4d, SoMFVec4f, SoMFVec4i32, SoMFVec4s, SoMField, SoSFBitMask, SoSFBool, SoSFBox2f,
-                SoSFBox2i32, SoSFBox2s, SoSFBox3f, SoSFBox3i32, SoSFBox3s, SoSFColor, SoSFColorRGBA, SoSFDouble,
-                SoSFEngine, SoSFEnum, SoSFFloat, SoSFInt32, SoSFMatrix, SoSFName, SoSFNode, SoSFPath, SoSFPlane,
-                SoSFRotation, SoSFShort, SoSFString, SoSFTime, SoSFTrigger, SoSFUInt32, SoSFUShort, SoSFVec2d,
-                SoSFVec2f, SoSFVec2i32, SoSFVec2s, SoSFVec3d, SoSFVec3f, SoSFVec3i32, SoSFVec3s, SoSFVec4d, SoSFVec4f,
-                SoSFVec4i32, SoSFVec4s, SoSField>();
+    registerAll<SoMFBitMask, SoMFBool, SoMFColor, SoMFColorRGBA, SoMFDouble, SoMFEngine, SoMFEnum, SoMFFloat,
+                SoMFInstanceParameter, SoMFInt32, SoMFMatrix, SoMFName, SoMFNode, SoMFPath, SoMFPlane, SoMFRotation,
+                SoMFShort, SoMFString, SoMFTime, SoMFUInt32, SoMFUShort, SoMFUniformShaderParameter, SoMFVec2d,
+                SoMFVec2f, SoMFVec2i32, SoMFVec2s, SoMFVec3d, SoMFVec3f, SoMFVec3i32, SoMFVec3s, SoMFVec4d, SoMFVec4f,
+                SoMFVec4i32, SoMFVec4s, SoMField, SoSFArray, SoSFArray2D, SoSFArray3D, SoSFBitMask, SoSFBool, SoSFBox2f,
+                SoSFBox2i32, SoSFBox2s, SoSFBox3f, SoSFBox3i32, SoSFBox3s, SoSFBufferObject, SoSFColor, SoSFColorRGBA,
+                SoSFDouble, SoSFEngine, SoSFEnum, SoSFFieldContainer, SoSFFloat, SoSFImage, SoSFImage3, SoSFInt32,
+                SoSFMatrix, SoSFName, SoSFNode, SoSFPath, SoSFPlane, SoSFRotation, SoSFShort, SoSFString, SoSFTime,
+                SoSFTrigger, SoSFUInt32, SoSFUShort, SoSFVec2d, SoSFVec2f, SoSFVec2i32, SoSFVec2s, SoSFVec3d, SoSFVec3f,
+                SoSFVec3i32, SoSFVec3s, SoSFVec4d, SoSFVec4f, SoSFVec4i32, SoSFVec4s, SoSField, SoBufferObject>();
 }

@@ -1,8 +1,69 @@
 #include <vexel/nodes/detail/NodeTypes.h>
 
+#include <vexel/nodes/SoAntiSquish.h>
+#include <vexel/nodes/SoBackground.h>
+#include <vexel/nodes/SoBaseColor.h>
+#include <vexel/nodes/SoBumpMap.h>
+#include <vexel/nodes/SoCamera.h>
+#include <vexel/nodes/SoClipPlane.h>
+#include <vexel/nodes/SoColorIndex.h>
+#include <vexel/nodes/SoComplexity.h>
+#include <vexel/nodes/SoCoordinate3.h>
+#include <vexel/nodes/SoCoordinate4.h>
+#include <vexel/nodes/SoDepthBuffer.h>
+#include <vexel/nodes/SoDirectionalLight.h>
+#include <vexel/nodes/SoDrawStyle.h>
+#include <vexel/nodes/SoEnvironment.h>
+#include <vexel/nodes/SoFont.h>
+#include <vexel/nodes/SoFontStyle.h>
+#include <vexel/nodes/SoGradientBackground.h>
 #include <vexel/nodes/SoGroup.h>
+#include <vexel/nodes/SoImageBackground.h>
+#include <vexel/nodes/SoInfo.h>
+#include <vexel/nodes/SoInstanceParameter.h>
+#include <vexel/nodes/SoLabel.h>
+#include <vexel/nodes/SoLight.h>
+#include <vexel/nodes/SoLightModel.h>
+#include <vexel/nodes/SoMaterial.h>
+#include <vexel/nodes/SoMaterialBinding.h>
+#include <vexel/nodes/SoMatrixTransform.h>
+#include <vexel/nodes/SoNormal.h>
+#include <vexel/nodes/SoNormalBinding.h>
+#include <vexel/nodes/SoOrthographicCamera.h>
+#include <vexel/nodes/SoPackedColor.h>
+#include <vexel/nodes/SoPerspectiveCamera.h>
+#include <vexel/nodes/SoPickStyle.h>
+#include <vexel/nodes/SoPointLight.h>
+#include <vexel/nodes/SoPolygonOffset.h>
+#include <vexel/nodes/SoResetTransform.h>
+#include <vexel/nodes/SoRotation.h>
+#include <vexel/nodes/SoRotationXYZ.h>
+#include <vexel/nodes/SoScale.h>
 #include <vexel/nodes/SoSeparator.h>
+#include <vexel/nodes/SoShaderParameter.h>
+#include <vexel/nodes/SoShape.h>
+#include <vexel/nodes/SoShapeHints.h>
+#include <vexel/nodes/SoSpotLight.h>
+#include <vexel/nodes/SoTexture2.h>
+#include <vexel/nodes/SoTexture2Transform.h>
+#include <vexel/nodes/SoTexture3.h>
+#include <vexel/nodes/SoTextureCoordinate2.h>
+#include <vexel/nodes/SoTextureCoordinate3.h>
+#include <vexel/nodes/SoTextureCoordinateBinding.h>
+#include <vexel/nodes/SoTextureCoordinateDefault.h>
+#include <vexel/nodes/SoTextureCoordinateEnvironment.h>
+#include <vexel/nodes/SoTextureCoordinateFunction.h>
+#include <vexel/nodes/SoTextureCoordinatePlane.h>
+#include <vexel/nodes/SoTextureMatrixTransform.h>
+#include <vexel/nodes/SoTextureUnit.h>
+#include <vexel/nodes/SoTransform.h>
+#include <vexel/nodes/SoTransformation.h>
+#include <vexel/nodes/SoTranslation.h>
+#include <vexel/nodes/SoTransparencyType.h>
+#include <vexel/nodes/SoUniformShaderParameter.h>
+#include <vexel/nodes/SoUnits.h>
 #include <vexel/nodes/SoUnknownNode.h>
+#include <vexel/nodes/SoVertexProperty.h>
 
 namespace {
 
@@ -18,5 +79,19 @@ void registerAll()
 void registerNodeTypes()
 {
     registerAll<SoGroup, SoSeparator>();
-    registerAll<SoUnknownNode>();
+    registerAll<SoMaterial, SoBaseColor, SoPackedColor, SoColorIndex, SoMaterialBinding, SoLightModel, SoDrawStyle,
+                SoPolygonOffset, SoComplexity, SoShapeHints, SoPickStyle, SoFont, SoFontStyle, SoTransparencyType,
+                SoDepthBuffer, SoEnvironment, SoClipPlane, SoBackground, SoGradientBackground, SoImageBackground>();
+    registerAll<SoNormal, SoNormalBinding, SoCoordinate3, SoCoordinate4, SoTextureCoordinate2, SoTextureCoordinate3,
+                SoTextureCoordinateBinding, SoVertexProperty>();
+    registerAll<SoTextureCoordinateFunction, SoTextureCoordinateDefault, SoTextureCoordinatePlane,
+                SoTextureCoordinateEnvironment, SoTextureUnit, SoTexture2, SoTexture3, SoTexture2Transform,
+                SoTextureMatrixTransform, SoBumpMap>();
+    registerAll<SoTransformation, SoTransform, SoMatrixTransform, SoRotationXYZ, SoRotation, SoTranslation, SoScale,
+                SoUnits, SoResetTransform, SoAntiSquish>();
+    registerAll<SoCamera, SoPerspectiveCamera, SoOrthographicCamera, SoLight, SoDirectionalLight, SoPointLight,
+                SoSpotLight>();
+    registerAll<SoShape>();
+    registerAll<SoShaderParameter, SoUniformShaderParameter, SoInstanceParameter>();
+    registerAll<SoInfo, SoLabel, SoUnknownNode>();
 }

@@ -83,6 +83,8 @@ struct SoStateValues {
     std::uint32_t overrides = 0;
 
     SbMatrix model = SbMatrix::identity();
+    /** Length of the unit that the last Units node gave. */
+    double metersPerUnit = 1;
 
     SoStateList<SbColor> ambientColor, diffuseColor, specularColor, emissiveColor;
     SoStateList<float> shininess, transparency;
@@ -101,11 +103,13 @@ struct SoStateValues {
     SoStateList<SbVec2f> textureCoordinates2;
     SoStateList<SbVec3f> textureCoordinates3;
     /** SoNormalBinding::Binding and SoTextureCoordinateBinding::Binding. */
-    int normalBinding = 0;
-    int textureCoordinateBinding = 0;
+    int normalBinding = 6;
+    int textureCoordinateBinding = 1;
 
     std::array<SoTextureState, NumTextureUnits> textures;
     int textureUnit = 0;
+    /** The bump map in force; null for none. */
+    const SoNode* bumpMap = nullptr;
 
     /** SoDrawStyle::Style; sizes in pixels, 0 for the default of 1. */
     int drawStyle = 0;

@@ -91,8 +91,14 @@ bool SceneReader::readContainer(SoType family, SoFieldContainer*& container)
     if (word == "NULL")
         return true;
     std::string_view outputName;
-    if (word == "USE")
-        return readUse(container, outputName);
+    if (word == "USE") {
+        m_text.skipSpace();
+        const char* place = m_text.position();
+        if (!readUse(container, outputName))
+            return false;
+        leaveOutUnlessOf(family, place, container);
+        return true;
+    }
     if (word != "DEF")
         return readDefined(family, word, nullptr, container);
 
@@ -103,6 +109,14 @@ bool SceneReader::readContainer(SoType family, SoFieldContainer*& container)
     if (typeName.empty())
         return m_in.postError("a node type after DEF and a name");
     return readDefined(family, typeName, &name, container);
+}
+
+void SceneReader::leaveOutUnlessOf(SoType family, const char* place, SoFieldContainer*& container)
+{
+    if (container->isOfType(family))
+        return;
+    m_in.postErrorAt(place, "a " + std::string(family.getName().getView()) + " is expected here; it is left out");
+    container = nullptr;
 }
 
 bool SceneReader::readUse(SoFieldContainer*& container, std::string_view& outputName)
@@ -181,6 +195,8 @@ bool SceneReader::readDefined(SoType family, std::string_view typeName, const st
     if (container->isOfType(SoNode::getClassTypeId()))
         static_cast<SoNode*>(container)->readFinished(m_in);
     m_in.updateProgress();
+    // A node of an unknown type cannot stand where a field asks for something else than any node.
+    leaveOutUnlessOf(family, opening, container);
     return true;
 }
 

@@ -46,6 +46,7 @@ private:
         bool isOpen = false;
     };
 
+    void leaveOutUnlessOf(SoType family, const char* place, SoFieldContainer*& container);
     bool readUse(SoFieldContainer*& container, std::string_view& outputName);
     bool readDefined(SoType family, std::string_view typeName, const std::string* name, SoFieldContainer*& container);
     bool readBody(SoFieldContainer& container, const char* opening);

@@ -1,0 +1,135 @@
+#include <vexel/nodes/SoCamera.h>
+
+#include <algorithm>
+
+#include <vexel/actions/SoAction.h>
+#include <vexel/base/SbBox3f.h>
+#include <vexel/base/SbMatrix.h>
+#include <vexel/base/SbViewportRegion.h>
+#include <vexel/base/SoPath.h>
+#include <vexel/nodes/SoShape.h>
+#include <vexel/state/SoState.h>
+
+namespace {
+
+/** Gathers the box around all shapes in the space of the root. */
+class BoxAction : public SoAction {
+    SO_ACTION(BoxAction, SoAction)
+public:
+    BoxAction() = default;
+
+    void visitShape(SoShape& shape) override
+    {
+        SbBox3f box = shape.computeBoundingBox(state());
+        box.transform(state()->model);
+        m_box.extendBy(box);
+    }
+    const SbBox3f& box() const { return m_box; }
+
+private:
+    SbBox3f m_box;
+};
+
+bool isCropping(int mapping)
+{
+    return mapping == SoCamera::CROP_VIEWPORT_FILL_FRAME || mapping == SoCamera::CROP_VIEWPORT_LINE_FRAME ||
+           mapping == SoCamera::CROP_VIEWPORT_NO_FRAME;
+}
+
+} // namespace
+
+SbVec3f SoCamera::getViewDirection() const
+{
+    SbVec3f direction;
+    orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
+    return direction;
+}
+
+void SoCamera::place(SbViewVolume& volume) const
+{
+    volume.rotateCamera(orientation.getValue());
+    volume.translateCamera(position.getValue());
+}
+
+void SoCamera::pointAt(const SbVec3f& target)
+{
+    pointAt(target, SbVec3f(0, 1, 0));
+}
+
+void SoCamera::pointAt(const SbVec3f& target, const SbVec3f& up)
+{
+    SbVec3f back = position.getValue() - target;
+    if (back.normalize() == 0)
+        return;
+    SbVec3f right = up.cross(back);
+    // Straight up or down: any direction across will do.
+    if (right.normalize() < 1e-6f) {
+        right = SbVec3f(1, 0, 0).cross(back);
+        if (right.normalize() < 1e-6f)
+            right = SbVec3f(0, 0, 1);
+    }
+    const SbVec3f above = back.cross(right);
+    orientation = SbRotation(SbMatrix(right[0], right[1], right[2], 0, above[0], above[1], above[2], 0, back[0],
+                                      back[1], back[2], 0, 0, 0, 0, 1));
+}
+
+SbViewVolume SoCamera::getViewVolume(const SbViewportRegion& region) const
+{
+    const int mapping = viewportMapping.getValue();
+    if (isCropping(mapping) || mapping == LEAVE_ALONE)
+        return getViewVolume();
+    const float aspect = region.getViewportAspectRatio();
+    SbViewVolume volume = getViewVolume(aspect);
+    // In a viewport that is higher than wide, the height is for the width.
+    if (aspect > 0 && aspect < 1)
+        volume.scale(1 / aspect);
+    return volume;
+}
+
+void SoCamera::viewAll(SoNode* root, const SbViewportRegion& region, float slack)
+{
+    BoxAction action;
+    action.state().setViewportRegion(region);
+    action.apply(root);
+    viewAll(action.box(), region, slack);
+}
+
+void SoCamera::viewAll(SoPath* path, const SbViewportRegion& region, float slack)
+{
+    BoxAction action;
+    action.state().setViewportRegion(region);
+    action.apply(path);
+    viewAll(action.box(), region, slack);
+}
+
+void SoCamera::viewAll(const SbBox3f& box, const SbViewportRegion& region, float slack)
+{
+    if (box.isEmpty())
+        return;
+    const float radius = std::max(box.getSize().length() / 2, 1e-6f);
+    const bool adjusts = viewportMapping.getValue() == ADJUST_CAMERA;
+    const float aspect = adjusts ? std::max(region.getViewportAspectRatio(), 1.0f) : aspectRatio.getValue();
+    viewSphere(box.getCenter(), radius, aspect, std::max(slack, 1.0f));
+}
+
+void SoCamera::doAction(SoAction& action)
+{
+    SoState& state = action.state();
+    SbViewVolume volume = getViewVolume(state.getViewportRegion());
+    // The volume keeps its size in a scaled space, as its camera would.
+    const SbMatrix& model = state->model;
+    if (model != SbMatrix::identity()) {
+        SbVec3f translation;
+        SbVec3f scale;
+        SbRotation rotation;
+        SbRotation axes;
+        model.getTransform(translation, rotation, scale, axes);
+        SbVec3f eye;
+        model.multVecMatrix(volume.getProjectionPoint(), eye);
+        volume.rotateCamera(rotation);
+        volume.translateCamera(eye - volume.getProjectionPoint());
+    }
+    state->camera = this;
+    state->viewVolume = volume;
+    action.visitCamera(*this);
+}

@@ -1,0 +1,16 @@
+#include <vexel/nodes/SoTextureCoordinate2.h>
+
+#include <vexel/actions/SoAction.h>
+#include <vexel/nodes/detail/StateValues.h>
+#include <vexel/state/SoState.h>
+
+void SoTextureCoordinate2::doAction(SoAction& action)
+{
+    SoState& state = action.state();
+    if (point.isIgnored() || !state.mayChange(SO_OVERRIDE_TEXTURE_COORDINATES, isOverride()))
+        return;
+    SoStateValues& values = *state;
+    values.textureCoordinates2 = stateList(point, *this);
+    values.textureCoordinates3 = {};
+    values.textures[static_cast<std::size_t>(values.textureUnit)].function = nullptr;
+}
