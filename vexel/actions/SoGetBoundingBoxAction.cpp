@@ -61,6 +61,15 @@ void SoGetBoundingBoxAction::leaveTransformsAbove()
         open.isCacheable = false;
 }
 
+void SoGetBoundingBoxAction::forgetBoundingBox()
+{
+    m_box.makeEmpty();
+    for (OpenSeparator& open : m_open) {
+        open.before.makeEmpty();
+        open.isCacheable = false;
+    }
+}
+
 // What comes from outside a separator may change without the separator being told, so its box must not be kept.
 void SoGetBoundingBoxAction::checkDependencies(const SoShape& shape)
 {

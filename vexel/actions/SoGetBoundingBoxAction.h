@@ -19,6 +19,8 @@ public:
 
     /** Called by nodes that place what is below them without regard to the transforms above. */
     void leaveTransformsAbove();
+    /** Called by nodes that take what came before them out of the box. */
+    void forgetBoundingBox();
 
 protected:
     void beginTraversal() override;

@@ -2,33 +2,14 @@
 
 #include <algorithm>
 
-#include <vexel/actions/SoAction.h>
+#include <vexel/actions/SoGetBoundingBoxAction.h>
 #include <vexel/base/SbBox3f.h>
 #include <vexel/base/SbMatrix.h>
 #include <vexel/base/SbViewportRegion.h>
 #include <vexel/base/SoPath.h>
-#include <vexel/nodes/SoShape.h>
 #include <vexel/state/SoState.h>
 
 namespace {
-
-/** Gathers the box around all shapes in the space of the root. */
-class BoxAction : public SoAction {
-    SO_ACTION(BoxAction, SoAction)
-public:
-    BoxAction() = default;
-
-    void visitShape(SoShape& shape) override
-    {
-        SbBox3f box = shape.computeBoundingBox(state());
-        box.transform(state()->model);
-        m_box.extendBy(box);
-    }
-    const SbBox3f& box() const { return m_box; }
-
-private:
-    SbBox3f m_box;
-};
 
 bool isCropping(int mapping)
 {
@@ -88,18 +69,16 @@ SbViewVolume SoCamera::getViewVolume(const SbViewportRegion& region) const
 
 void SoCamera::viewAll(SoNode* root, const SbViewportRegion& region, float slack)
 {
-    BoxAction action;
-    action.state().setViewportRegion(region);
+    SoGetBoundingBoxAction action(region);
     action.apply(root);
-    viewAll(action.box(), region, slack);
+    viewAll(action.getBoundingBox(), region, slack);
 }
 
 void SoCamera::viewAll(SoPath* path, const SbViewportRegion& region, float slack)
 {
-    BoxAction action;
-    action.state().setViewportRegion(region);
+    SoGetBoundingBoxAction action(region);
     action.apply(path);
-    viewAll(action.box(), region, slack);
+    viewAll(action.getBoundingBox(), region, slack);
 }
 
 void SoCamera::viewAll(const SbBox3f& box, const SbViewportRegion& region, float slack)
