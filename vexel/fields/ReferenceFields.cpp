@@ -60,7 +60,7 @@ void SoSingleReferenceField::copyFrom(const SoField& other)
 bool SoSingleReferenceField::readValue(SoInput& in)
 {
     SoBase* object = nullptr;
-    if (!readReference(in, getTypeId(), object))
+    if (!readReference(in, getReferenceType(), object))
         return false;
     setBase(object);
     return true;
@@ -194,7 +194,7 @@ bool SoMultiReferenceField::readValue(SoInput& in)
     std::vector<SoBase*> objects;
     const bool complete = readList(in, [&] {
         SoBase* object = nullptr;
-        if (!readReference(in, getTypeId(), object))
+        if (!readReference(in, getReferenceType(), object))
             return false;
         objects.push_back(object);
         if (object)
@@ -217,7 +217,7 @@ void SoMultiReferenceField::writeValue(SoOutput& out) const
 bool SoMultiReferenceField::read1Value(SoInput& in, int index)
 {
     SoBase* object = nullptr;
-    if (!readReference(in, getTypeId(), object))
+    if (!readReference(in, getReferenceType(), object))
         return false;
     setBase(index, object);
     return true;

@@ -5,6 +5,6 @@ class SoInput;
 class SoOutput;
 class SoType;
 
-/** Reads a node, path or engine, as the type of the field asks, or NULL. */
-bool readReference(SoInput& in, SoType fieldType, SoBase*& object);
+/** Reads a path, or an object made of fields of the class that is asked for, or NULL. */
+bool readReference(SoInput& in, SoType family, SoBase*& object);
 void writeReference(SoOutput& out, SoBase* object);
