@@ -92,6 +92,26 @@ TEST_F(TransparencyTest, SortedPixelStaysBehindOpaqueThingsAndInsideItsViewport)
     }
 }
 
+TEST_F(TransparencyTest, SortedPixelHasSmoothEdgesOnAMultisampledTarget)
+{
+    target = std::make_unique<OffscreenTarget>(Size, Size, 4);
+    RenderPacket packet = plain(square(0.5f), SbVec3f(1, 0, 0));
+    packet.matrix[0][1] = 0.2f;
+    packet.material.transparency = 0.5f;
+    packet.state.style.transparency = RenderStyle::Transparency::SortedPixel;
+    list.add(scene, packet);
+    const QImage picture = draw();
+    EXPECT_COLOR(at(picture, 0, 0), 128, 0, 0);
+    int between = 0;
+    for (int x = Size / 4 + 1; x < Size * 3 / 4; ++x) {
+        for (int y = 0; y < Size; ++y) {
+            const int red = picture.pixelColor(x, y).red();
+            between += red > 20 && red < 108;
+        }
+    }
+    EXPECT_GT(between, Size / 4);
+}
+
 TEST_F(TransparencyTest, ColourChangeReachesSortedPackets)
 {
     RenderPacket packet = plain(square(0.5f), SbVec3f(1, 0, 0));

@@ -8,31 +8,46 @@
 namespace vexel {
 
 /**
- * Blends transparent surfaces in the right order for every pixel, also where they cross: draws them again and again,
+ * Blends transparent surfaces in the right order for every sample, also where they cross: draws them again and again,
  * each time showing the nearest surface behind the one before, until nothing is left.
  */
 class DepthPeeler {
 public:
     DepthPeeler();
 
-    /** Blends what `drawLayer` draws over the bound framebuffer, whose depth hides things. `drawLayer` gets the
-       viewport to use and must draw with ProgramKey::Layer. */
-    void draw(const RenderViewport& viewport, const std::function<void(const RenderViewport&)>& drawLayer);
+    /** Draws with ProgramKey::Layer into the given viewport of the bound framebuffer, which may be multisampled. */
+    using DrawLayer = std::function<void(const RenderViewport&, bool multisampled)>;
+
+    /** Blends what `drawLayer` draws over the bound framebuffer, whose depth hides things. */
+    void draw(const RenderViewport& viewport, const DrawLayer& drawLayer);
     void release();
 
 private:
     enum Texture { Sum, Layer, DepthA, DepthB, OpaqueDepth, TextureCount };
 
-    void fit(int width, int height, unsigned depthFormat);
+    /** What the textures are made for. */
+    struct Format {
+        int width;
+        int height;
+        int samples; ///< 0: one, in an ordinary texture
+        unsigned depth;
+
+        bool operator==(const Format& other) const;
+    };
+
+    static Format formatFor(const RenderViewport& viewport, unsigned target);
+    void fit(const Format& format);
+    unsigned textureTarget() const;
     void attach(Texture color, Texture depth) const;
-    void copyOpaqueDepth(unsigned target, const RenderViewport& viewport);
+    void bindDepths(Texture previous) const;
+    void copyOpaqueDepth(unsigned target, const RenderViewport& viewport) const;
+    void merge(Texture source, const RenderViewport& corner, bool multiply);
 
     unsigned m_framebuffer = 0;
     unsigned m_textures[TextureCount] = {};
-    int m_width = 0;
-    int m_height = 0;
-    unsigned m_depthFormat = 0;
+    Format m_format{0, 0, 0, 0};
     ScreenPass m_merge;
+    ScreenPass m_mergeSamples;
 };
 
 } // namespace vexel

@@ -103,10 +103,11 @@ void LayerDrawer::drawTransparent(const DrawListData& list, ListCache& cache, Li
         return;
     pass.output = ProgramKey::Layer;
     pass.depthWrite = true;
-    m_peeler.draw(view.viewport, [&](const RenderViewport& viewport) {
+    m_peeler.draw(view.viewport, [&](const RenderViewport& viewport, bool multisampled) {
         RenderView inside = view;
         inside.viewport = viewport;
         m_packets.setCamera(Camera(inside));
+        pass.multisampled = multisampled;
         m_packets.draw(list, by_pixel, cache.mirror.buffer(), pass);
     });
 }

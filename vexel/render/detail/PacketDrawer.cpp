@@ -97,6 +97,7 @@ ProgramKey PacketDrawer::keyFor(const Bound& bound, const RenderState& state, Pa
     const ProgramKey::Topology topology = topologyOf(bound.primitive, part, style, lineWidthOf(style, pass));
     key[ProgramKnob::Topology] = topology;
     key[ProgramKnob::Output] = pass.output;
+    key[ProgramKnob::Multisampled] = pass.multisampled;
     key[ProgramKnob::RoundPoints] = topology == ProgramKey::Points && style.roundPoints;
     if (pass.output != ProgramKey::OneColor) {
         const bool surface = topology == ProgramKey::Triangles;

@@ -18,6 +18,7 @@ struct DrawPass {
     std::optional<bool> depthWrite;        ///< instead of what the packets ask for
     std::optional<bool> depthTest;         ///< instead of what the packets ask for
     std::optional<RenderStyle::Draw> draw; ///< instead of what the packets ask for
+    bool multisampled = false;             ///< for Layer: the target has several samples per pixel
     bool textures = true;
     bool lighting = true;
     SbVec4f color{1, 1, 1, 1}; ///< for OneColor

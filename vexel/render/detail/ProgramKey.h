@@ -24,6 +24,7 @@ enum class ProgramKnob : std::uint8_t {
     ClipPlanes,
     Fog,
     RoundPoints,
+    Multisampled,
     Count
 };
 

@@ -18,7 +18,7 @@ void main()
 }
 )";
 
-const char* const FragmentHead = R"(#version 330 core
+const char* const FragmentHead = R"(
 in vec2 place;
 out vec4 result;
 )";
@@ -28,7 +28,8 @@ out vec4 result;
 void ScreenPass::use()
 {
     if (!m_program) {
-        m_program = compileProgram(Vertex, std::string(), std::string(FragmentHead) + m_fragment);
+        m_program = compileProgram(Vertex, std::string(),
+                                   std::string("#version 330 core\n") + m_extensions + FragmentHead + m_fragment);
         glGenVertexArrays(1, &m_vertexArray);
     }
     glUseProgram(m_program);

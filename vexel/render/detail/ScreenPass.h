@@ -6,8 +6,12 @@ namespace vexel {
  */
 class ScreenPass {
 public:
-    /** `fragment`: declarations of uniforms, and a main() that sets `vec4 result`. */
-    explicit ScreenPass(const char* fragment) : m_fragment(fragment) {}
+    /** `fragment`: declarations of uniforms, and a main() that sets `vec4 result`; `extensions`: lines that must stand
+       in front of everything. */
+    explicit ScreenPass(const char* fragment, const char* extensions = "")
+        : m_fragment(fragment), m_extensions(extensions)
+    {
+    }
 
     /** Makes the program current, so that uniforms can be set. Compiles at the first use. */
     void use();
@@ -18,6 +22,7 @@ public:
 
 private:
     const char* m_fragment;
+    const char* m_extensions;
     unsigned m_program = 0;
     unsigned m_vertexArray = 0;
 };

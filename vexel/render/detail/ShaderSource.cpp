@@ -5,8 +5,9 @@ namespace vexel {
 namespace {
 
 const char* const KnobNames[ProgramKey::Count] = {
-    "TOPOLOGY", "OUTPUT",      "LIT",         "TWO_SIDED", "FACET_NORMALS", "VERTEX_COLORS", "SHINY", "TEXTURE",
-    "MODEL",    "COORDINATES", "DIRECTIONAL", "POINT",     "SPOT",          "CLIP_PLANES",   "FOG",   "ROUND_POINTS"};
+    "TOPOLOGY", "OUTPUT",      "LIT",   "TWO_SIDED",    "FACET_NORMALS", "VERTEX_COLORS",
+    "SHINY",    "TEXTURE",     "MODEL", "COORDINATES",  "DIRECTIONAL",   "POINT",
+    "SPOT",     "CLIP_PLANES", "FOG",   "ROUND_POINTS", "MULTISAMPLED"};
 
 /** Names for the knob values that the shader texts compare with, and what all stages share. */
 const char* const Common = R"(
@@ -221,8 +222,15 @@ uniform sampler3D image;
 #define SAMPLE texture(image, surface.coordinates)
 #endif
 #if OUTPUT == LAYER
-uniform sampler2D layerDepth;
-uniform sampler2D opaqueDepth;
+#if MULTISAMPLED
+#define DEPTH_SAMPLER sampler2DMS
+#define DEPTH_PART gl_SampleID
+#else
+#define DEPTH_SAMPLER sampler2D
+#define DEPTH_PART 0
+#endif
+uniform DEPTH_SAMPLER layerDepth;
+uniform DEPTH_SAMPLER opaqueDepth;
 #endif
 
 out vec4 result;
@@ -323,7 +331,7 @@ void main()
 #endif
 #if OUTPUT == LAYER
     ivec2 pixel = ivec2(gl_FragCoord.xy - viewport.xy);
-    if (gl_FragCoord.z <= texelFetch(layerDepth, pixel, 0).x || gl_FragCoord.z >= texelFetch(opaqueDepth, pixel, 0).x)
+    if (gl_FragCoord.z <= texelFetch(layerDepth, pixel, DEPTH_PART).x || gl_FragCoord.z >= texelFetch(opaqueDepth, pixel, DEPTH_PART).x)
         discard;
 #endif
 #if OUTPUT == ONE_COLOR
@@ -382,6 +390,8 @@ std::string block(const char* direction, const std::string& name)
 ShaderSource::ShaderSource(const ProgramKey& key)
 {
     std::string head = "#version 330 core\n";
+    if (key[ProgramKnob::Multisampled])
+        head += "#extension GL_ARB_sample_shading : enable\n";
     for (std::size_t knob = 0; knob < ProgramKey::Count; ++knob)
         head += std::string("#define ") + KnobNames[knob] + " " + std::to_string(key[static_cast<ProgramKnob>(knob)]) +
                 "\n";
