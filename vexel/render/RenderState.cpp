@@ -1,5 +1,6 @@
 #include <vexel/render/RenderState.h>
 
+#include <algorithm>
 #include <functional>
 #include <tuple>
 
@@ -16,8 +17,8 @@ auto tied(const RenderStyle& s)
 
 auto tied(const RenderTexture& t)
 {
-    return std::tie(t.wrapS, t.wrapT, t.wrapR, t.filter, t.model, t.blendColor, t.coordinates, t.planeS, t.planeT,
-                    t.matrix);
+    return std::tie(t.image, t.wrapS, t.wrapT, t.wrapR, t.filter, t.model, t.blendColor, t.coordinates, t.planeS,
+                    t.planeT, t.matrix);
 }
 
 template <typename... T>
@@ -32,10 +33,9 @@ std::size_t hashOf(const T&... values)
 
 bool operator==(const RenderState& a, const RenderState& b)
 {
-    if (a.surroundings != b.surroundings || a.texture.image != b.texture.image)
-        return false;
-    // How a texture would be applied plays no part when there is none.
-    return tied(a.style) == tied(b.style) && (!a.texture.image || tied(a.texture) == tied(b.texture));
+    return a.surroundings == b.surroundings && tied(a.style) == tied(b.style) &&
+           std::equal(a.textures.begin(), a.textures.end(), b.textures.begin(), b.textures.end(),
+                      [](const RenderTexture& x, const RenderTexture& y) { return tied(x) == tied(y); });
 }
 
 std::size_t RenderStateHash::operator()(const RenderState& state) const
@@ -46,7 +46,7 @@ std::size_t RenderStateHash::operator()(const RenderState& state) const
                               static_cast<std::size_t>(s.twoSided) << 7 | static_cast<std::size_t>(s.flat) << 8 |
                               static_cast<std::size_t>(s.linePattern) << 16;
     return hashOf(flags, s.lineWidth, s.pointSize, s.offsetFactor, s.offsetUnits, state.surroundings.get(),
-                  state.texture.image.get());
+                  state.textures.empty() ? nullptr : state.textures.front().image.get());
 }
 
 } // namespace vexel

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <vector>
 
 #include <vexel/base/VexelApi.h>
 #include <vexel/render/RenderTexture.h>
@@ -40,7 +41,7 @@ struct RenderStyle {
 /** Everything but geometry, matrix and material that decides how a packet is drawn. Equal states are held once. */
 struct RenderState {
     RenderStyle style;
-    RenderTexture texture;
+    std::vector<RenderTexture> textures; ///< applied one after the other; those after the fourth are ignored
     std::shared_ptr<const RenderSurroundings> surroundings; ///< none: no lights, no ambient light
 };
 

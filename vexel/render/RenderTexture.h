@@ -41,7 +41,13 @@ private:
 struct RenderTexture {
     enum class Wrap : std::uint8_t { Repeat, Clamp };
     enum class Filter : std::uint8_t { Nearest, Linear, Mipmap };
-    enum class Model : std::uint8_t { Modulate, Decal, Blend, Replace };
+    enum class Model : std::uint8_t {
+        Modulate,
+        Decal,
+        Blend,
+        Replace,
+        Bump ///< red, green, blue are the normal, from -1 to 1, relative to s, t and the surface
+    };
     enum class Coordinates : std::uint8_t { FromVertices, Plane, Environment };
 
     std::shared_ptr<const RenderImage> image; ///< none: not textured

@@ -61,7 +61,9 @@ TEST_F(SegmentTest, ASegmentMayHaveItsOwnCameraAndViewport)
 TEST_F(SegmentTest, OptionsOverrideTheList)
 {
     RenderPacket packet = plain(square(0.5f), SbVec3f(1, 1, 1));
-    packet.state.texture.image = std::make_shared<const RenderImage>(1, 1, 1, 3, std::vector<std::uint8_t>{0, 0, 255});
+    packet.state.textures.resize(1);
+    packet.state.textures[0].image =
+        std::make_shared<const RenderImage>(1, 1, 1, 3, std::vector<std::uint8_t>{0, 0, 255});
     list.add(scene, packet);
     EXPECT_COLOR(at(draw(), 0, 0), 0, 0, 255);
     RenderOptions options;

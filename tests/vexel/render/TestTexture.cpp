@@ -18,7 +18,7 @@ protected:
     QImage show(const RenderTexture& texture, const SbVec3f& color = SbVec3f(1, 1, 1))
     {
         RenderPacket packet = plain(square(0.8f), color);
-        packet.state.texture = texture;
+        packet.state.textures = {texture};
         const DrawList::Packet handle = list.add(scene, packet);
         const QImage picture = draw();
         list.remove(handle);
@@ -104,6 +104,42 @@ TEST_F(TextureTest, VolumesAreCutByTheSurface)
     EXPECT_COLOR(at(show(texture), 0, 0), 255, 0, 0);
     texture.matrix.setTranslate(SbVec3f(0, 0, 0.75f));
     EXPECT_COLOR(at(show(texture), 0, 0), 0, 255, 0);
+}
+
+TEST_F(TextureTest, SeveralImagesAreAppliedInTurn)
+{
+    RenderTexture second = fourColors();
+    second.matrix.setTranslate(SbVec3f(0.5f, 0, 0));
+    second.model = RenderTexture::Model::Blend;
+    second.blendColor = SbVec3f(0.2f, 0.2f, 0.2f);
+    RenderPacket packet = plain(square(0.8f), SbVec3f(1, 1, 1));
+    packet.state.textures = {fourColors(), second};
+    list.add(scene, packet);
+    // Red times white, then green replaced by the blend colour; blue, then all replaced.
+    EXPECT_COLOR(at(draw(), -0.4f, -0.4f), 255, 51, 0);
+    EXPECT_COLOR(at(draw(), -0.4f, 0.4f), 51, 51, 51);
+}
+
+TEST_F(TextureTest, BumpsBendTheNormal)
+{
+    RenderSurroundings::Values values;
+    values.ambient = SbVec3f(0, 0, 0);
+    RenderLight lamp;
+    lamp.direction = SbVec3f(-1, 0, 0);
+    values.lights.push_back(lamp);
+    RenderPacket packet;
+    packet.geometry = square(0.8f);
+    packet.material.diffuse = SbVec3f(1, 1, 1);
+    packet.state.surroundings = std::make_shared<const RenderSurroundings>(values);
+    RenderTexture texture;
+    texture.model = RenderTexture::Model::Bump;
+    // Leans towards +s by 3 in 5.
+    texture.image = std::make_shared<const RenderImage>(1, 1, 1, 3, std::vector<std::uint8_t>{204, 128, 230});
+    const DrawList::Packet handle = list.add(scene, packet);
+    EXPECT_COLOR(at(draw(), 0, 0), 0, 0, 0);
+    packet.state.textures = {texture};
+    list.setState(handle, packet.state);
+    EXPECT_COLOR(at(draw(), 0.1f, 0), 153, 153, 153);
 }
 
 } // namespace

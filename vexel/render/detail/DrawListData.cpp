@@ -6,6 +6,15 @@
 
 namespace vexel {
 
+namespace {
+
+bool showsThrough(const RenderTexture& texture)
+{
+    return texture.image && texture.image->hasAlpha() && texture.model != RenderTexture::Model::Bump;
+}
+
+} // namespace
+
 DrawListData::DrawListData() : m_id(ResourceTrash::newId()) {}
 
 DrawListData::~DrawListData()
@@ -52,7 +61,7 @@ BatchKey DrawListData::keyFor(const BatchKey& similar, const InstanceRecord& rec
     BatchKey key = similar;
     key.transparent = state.style.transparency != RenderStyle::Transparency::None &&
                       (record.isTransparent() || key.geometry->hasTransparentColors() ||
-                       (state.texture.image && state.texture.image->hasAlpha()));
+                       std::any_of(state.textures.begin(), state.textures.end(), showsThrough));
     key.shiny = state.style.lit && record.isShiny();
     key.mirrored = record.isMirrored();
     return key;

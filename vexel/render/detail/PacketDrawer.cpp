@@ -65,6 +65,17 @@ ProgramKey::Topology topologyOf(RenderPrimitive primitive, GeometryBuffers::Part
     return lineWidth > 1 || style.linePattern != 0xffff ? ProgramKey::WideLines : ProgramKey::ThinLines;
 }
 
+TextureKnob knobFor(const RenderTexture& texture, bool lit)
+{
+    // Without light there is nothing that a bump could change.
+    if (!texture.image || (texture.model == RenderTexture::Model::Bump && !lit))
+        return {};
+    return {static_cast<std::uint8_t>(texture.image->depth() > 1 ? 3 : 2), static_cast<std::uint8_t>(texture.model),
+            static_cast<std::uint8_t>(texture.coordinates)};
+}
+
+static_assert(static_cast<int>(RenderTexture::Model::Bump) == TextureKnob::Bump, "the shaders know this number");
+
 } // namespace
 
 bool PacketDrawer::Bound::operator==(const Bound& other) const
@@ -106,11 +117,8 @@ ProgramKey PacketDrawer::keyFor(const Bound& bound, const RenderState& state, Pa
         key[ProgramKnob::FacetNormals] = key[ProgramKnob::Lit] && surface && (style.flat || !bound.normals);
         key[ProgramKnob::VertexColors] = bound.colors;
         key[ProgramKnob::Shiny] = key[ProgramKnob::Lit] && bound.shiny;
-        if (state.texture.image && pass.textures) {
-            key[ProgramKnob::TextureDimensions] = state.texture.image->depth() > 1 ? 3 : 2;
-            key[ProgramKnob::TextureModel] = static_cast<std::uint8_t>(state.texture.model);
-            key[ProgramKnob::TextureCoordinates] = static_cast<std::uint8_t>(state.texture.coordinates);
-        }
+        for (std::size_t i = 0; pass.textures && i < state.textures.size() && i < ProgramKey::MaxTextures; ++i)
+            key.setTexture(static_cast<int>(i), knobFor(state.textures[i], key[ProgramKnob::Lit]));
     }
     SurroundingsStore::describe(state.surroundings.get(), key);
     return key;
@@ -136,15 +144,21 @@ void PacketDrawer::applyProgram(const RenderState& state, const ProgramKey& key,
     glUniform1f(uniforms.linePatternScale, std::max<int>(state.style.linePatternScale, 1));
     glUniform4fv(uniforms.oneColor, 1, &pass.color[0]);
     m_surroundings.bind(state.surroundings.get());
-    if (!key[ProgramKnob::TextureDimensions])
-        return;
-    const RenderTexture& texture = state.texture;
-    glUniformMatrix4fv(uniforms.textureMatrix, 1, GL_FALSE, &texture.matrix[0][0]);
+    for (int i = 0; i < ProgramKey::MaxTextures; ++i) {
+        if (key.texture(i).dimensions)
+            applyTexture(state.textures[i], uniforms, i);
+    }
+}
+
+void PacketDrawer::applyTexture(const RenderTexture& texture, const ProgramUniforms& uniforms, int number)
+{
+    const auto& places = uniforms.textures[number];
     const float planes[8] = {texture.planeS[0], texture.planeS[1], texture.planeS[2], texture.planeS[3],
                              texture.planeT[0], texture.planeT[1], texture.planeT[2], texture.planeT[3]};
-    glUniform4fv(uniforms.texturePlanes, 2, planes);
-    glUniform3fv(uniforms.blendColor, 1, &texture.blendColor[0]);
-    glActiveTexture(GL_TEXTURE0 + ImageUnit);
+    glUniformMatrix4fv(places.matrix, 1, GL_FALSE, &texture.matrix[0][0]);
+    glUniform4fv(places.planes, 2, planes);
+    glUniform3fv(places.blendColor, 1, &texture.blendColor[0]);
+    glActiveTexture(GL_TEXTURE0 + ImageUnit + number);
     m_textures.bind(texture);
 }
 

@@ -56,6 +56,7 @@ private:
 
     ProgramKey keyFor(const Bound& bound, const RenderState& state, Part part, const DrawPass& pass) const;
     void applyState(const RenderState& state, const Bound& bound, const DrawPass& pass) const;
+    void applyTexture(const RenderTexture& texture, const ProgramUniforms& uniforms, int number);
     void applyProgram(const RenderState& state, const ProgramKey& key, const DrawPass& pass);
 
     GeometryStore& m_geometries;

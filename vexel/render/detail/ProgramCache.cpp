@@ -25,11 +25,20 @@ Program compile(const ProgramKey& key)
         return program;
     bindBlock(program.id, "Frame", FrameBinding);
     bindBlock(program.id, "Surroundings", SurroundingsBinding);
-    const auto place = [&](const char* name) { return glGetUniformLocation(program.id, name); };
-    program.uniforms = {place("pointSize"),     place("lineWidth"),     place("linePattern"), place("linePatternScale"),
-                        place("textureMatrix"), place("texturePlanes"), place("blendColor"),  place("oneColor")};
+    const auto place = [&](const std::string& name) { return glGetUniformLocation(program.id, name.c_str()); };
+    ProgramUniforms& uniforms = program.uniforms;
+    uniforms.pointSize = place("pointSize");
+    uniforms.lineWidth = place("lineWidth");
+    uniforms.linePattern = place("linePattern");
+    uniforms.linePatternScale = place("linePatternScale");
+    uniforms.oneColor = place("oneColor");
     glUseProgram(program.id);
-    glUniform1i(place("image"), ImageUnit);
+    for (int texture = 0; texture < ProgramKey::MaxTextures; ++texture) {
+        const std::string number = std::to_string(texture);
+        uniforms.textures[texture] = {place("textureMatrix" + number), place("texturePlanes" + number),
+                                      place("blendColor" + number)};
+        glUniform1i(place("image" + number), ImageUnit + texture);
+    }
     glUniform1i(place("layerDepth"), LayerDepthUnit);
     glUniform1i(place("opaqueDepth"), OpaqueDepthUnit);
     return program;

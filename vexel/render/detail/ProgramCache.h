@@ -12,10 +12,12 @@ struct ProgramUniforms {
     int lineWidth;
     int linePattern;
     int linePatternScale;
-    int textureMatrix;
-    int texturePlanes;
-    int blendColor;
     int oneColor;
+    struct {
+        int matrix;
+        int planes;
+        int blendColor;
+    } textures[ProgramKey::MaxTextures];
 };
 
 /** A linked program. */

@@ -27,6 +27,6 @@ enum VertexAttribute {
 
 /** Binding points of the uniform blocks, and texture units. */
 enum UniformBinding { FrameBinding, SurroundingsBinding };
-enum TextureUnit { ImageUnit, LayerDepthUnit, OpaqueDepthUnit };
+enum TextureUnit { ImageUnit, LayerDepthUnit = ProgramKey::MaxTextures, OpaqueDepthUnit };
 
 } // namespace vexel
