@@ -1,10 +1,12 @@
 #pragma once
 
+#include <extension/ExtensionApi.h>
+
 /**
  * A change that the user can undo. The inspector's history owns the commands given to it: it calls execute() once when
  * a command is added, then undo() and redo() in turns, and deletes the command when it can no longer be reached.
  */
-class __attribute__((visibility("default"))) NscCommand {
+class NSC_API NscCommand {
 public:
     NscCommand() = default;
     NscCommand(const NscCommand&) = delete;
