@@ -23,6 +23,8 @@ void SoNode::setOverride(bool on)
 
 void SoNode::doAction(SoAction&) {}
 
+void SoNode::handleEvent(SoHandleEventAction&) {}
+
 void SoNode::readFinished(SoInput&) {}
 
 SoNode* SoNode::getByName(const SbName& name)

@@ -6,6 +6,7 @@
 class SoAction;
 class SoChildList;
 class SoCopyMap;
+class SoHandleEventAction;
 class SoInput;
 
 /** Declares a node class; see SO_CONTAINER. */
@@ -40,6 +41,8 @@ public:
 
     /** What the node means to an action. Nodes without effect do nothing. */
     virtual void doAction(SoAction& action);
+    /** What the node does with an event of the user; most do nothing. A node that acted tells the action so. */
+    virtual void handleEvent(SoHandleEventAction& action);
     /** True when the node changes the state that its later siblings see; separators keep their effect to themselves. */
     virtual bool affectsState() const { return true; }
 

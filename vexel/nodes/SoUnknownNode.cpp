@@ -1,6 +1,5 @@
 #include <vexel/nodes/SoUnknownNode.h>
 
-#include <vexel/actions/SoAction.h>
 #include <vexel/fields/SoField.h>
 
 SoUnknownNode::SoUnknownNode() = default;
@@ -21,11 +20,6 @@ SoField* SoUnknownNode::addField(SoType type, const SbName& name)
     return m_fields.back().get();
 }
 
-void SoUnknownNode::doAction(SoAction& action)
-{
-    action.traverseChildren(m_children);
-}
-
 void SoUnknownNode::copyDeclarations(const SoUnknownNode& from)
 {
     m_bodyText = from.m_bodyText;
@@ -40,5 +34,5 @@ void SoUnknownNode::copyContents(const SoNode& from, SoCopyMap& copies)
     const auto& source = static_cast<const SoUnknownNode&>(from);
     m_typeName = source.m_typeName;
     copyDeclarations(source);
-    SoNode::copyContents(from, copies);
+    SoGroup::copyContents(from, copies);
 }

@@ -4,15 +4,14 @@
 #include <string>
 #include <vector>
 
-#include <vexel/nodes/SoChildList.h>
-#include <vexel/nodes/SoNode.h>
+#include <vexel/nodes/SoGroup.h>
 
 /**
  * Stands for a node of a type that the program does not know, as it was read: its fields when the file declares them,
  * otherwise its text; and its children. It has no effect of its own and is written again as it was.
  */
-class VEXEL_API SoUnknownNode : public SoNode {
-    SO_NODE(SoUnknownNode, SoNode)
+class VEXEL_API SoUnknownNode : public SoGroup {
+    SO_NODE(SoUnknownNode, SoGroup)
 public:
     SoUnknownNode();
 
@@ -37,9 +36,6 @@ public:
     /** Takes over declared fields, without their values, base types and text of another node. */
     void copyDeclarations(const SoUnknownNode& from);
 
-    SoChildList* getChildren() const override { return &m_children; }
-    bool hasFileChildren() const override { return true; }
-    void doAction(SoAction& action) override;
     void copyContents(const SoNode& from, SoCopyMap& copies) override;
 
 protected:
@@ -51,6 +47,5 @@ private:
     std::vector<std::string> m_baseTypes;
     std::vector<std::unique_ptr<SoField>> m_fields;
     SoFieldData m_fieldData;
-    mutable SoChildList m_children{this};
     bool m_isDeclared = false;
 };
