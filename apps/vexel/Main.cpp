@@ -1,0 +1,65 @@
+#include "Commands.h"
+
+#include <vexel/base/SoError.h>
+#include <vexel/io/SoDB.h>
+
+#include <cstdio>
+
+namespace {
+
+struct Command {
+    const char* name;
+    const char* usage;
+    const char* purpose;
+    int (*run)(const Arguments& arguments);
+};
+
+const Command Commands[] = {
+    {"info", "info FILE", "what a scene consists of: nodes by type, triangles, box, depth, shared nodes", runInfo},
+    {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column", runCheck},
+    {"convert", "convert IN OUT [--ascii | --binary]",
+     "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert},
+};
+
+void printUsage()
+{
+    std::puts("Usage: vexel COMMAND ...\n\nWorks on Vexel scene files.\n");
+    for (const Command& command : Commands)
+        std::printf("  vexel %-36s %s\n", command.usage, command.purpose);
+    std::puts("  vexel --help                               this text\n"
+              "  vexel --version                            the version of the program\n\n"
+              "Exit status: 0 when all was good, 1 when a file had errors and was read as far as possible,\n"
+              "2 when a file could not be read or written at all.");
+}
+
+} // namespace
+
+int complain(const std::string& problem)
+{
+    std::fprintf(stderr, "vexel: %s; see vexel --help\n", problem.c_str());
+    return Unreadable;
+}
+
+int main(int argc, char** argv)
+{
+    const Arguments arguments(argv + 1, argv + argc);
+    if (arguments.empty())
+        return complain("a command is missing");
+    for (const std::string& argument : arguments) {
+        if (argument == "--help") {
+            printUsage();
+            return All_good;
+        }
+    }
+    if (arguments[0] == "--version") {
+        std::puts("vexel " NODESCOPE_VERSION);
+        return All_good;
+    }
+    for (const Command& command : Commands) {
+        if (arguments[0] == command.name) {
+            SoDB::init();
+            return command.run(Arguments(arguments.begin() + 1, arguments.end()));
+        }
+    }
+    return complain("there is no command \"" + arguments[0] + "\"");
+}
