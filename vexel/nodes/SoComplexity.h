@@ -11,7 +11,7 @@ class VEXEL_API SoComplexity : public SoNode {
 public:
     enum Type {
         OBJECT_SPACE, /**< value counts alone */
-        SCREEN_SPACE, /**< the size on the screen counts too */
+        SCREEN_SPACE, /**< treated as OBJECT_SPACE */
         BOUNDING_BOX  /**< only boxes are drawn */
     };
     static constexpr SoEnumEntry Type_names[] = {

@@ -32,7 +32,7 @@ public:
     enum Dependency : unsigned {
         NOTHING = 0,
         ON_COORDINATES = 1,         /**< coordinates, normals, their bindings */
-        ON_TEXTURE_COORDINATES = 2, /**< texture coordinates, their binding and function */
+        ON_TEXTURE_COORDINATES = 2, /**< texture coordinates and their binding; whether there is any texture */
         ON_MATERIAL_BINDING = 4,
         ON_COMPLEXITY = 8,
         ON_SHAPE_HINTS = 16,
