@@ -101,6 +101,7 @@ void compare(benchmark::State& state, const OffscreenTarget& target, const std::
 {
     std::vector<double> times[2];
     const std::function<void()>* const runs[] = {&baseline, &ours};
+    glViewport(0, 0, Width, Height); // a context without a surface starts with an empty one
     double covered[2];
     for (int which = 0; which < 2; ++which) {
         (*runs[which])();

@@ -52,7 +52,11 @@ $each texture
     vec3 coordinates@;
 $end
 #if OUTPUT != ONE_COLOR
-    flat uvec4 material;
+    flat vec4 base; // diffuse colour and opacity
+    flat vec3 glow; // what is seen without any lamp
+#if SHINY
+    flat vec4 shine; // w: shininess
+#endif
 #endif
 #if TOPOLOGY == WIDE_LINES
     noperspective vec3 stroke; // pixels along and across the line, and its length

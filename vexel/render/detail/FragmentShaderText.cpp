@@ -87,7 +87,7 @@ void addLight(vec3 color, vec3 n, vec3 towards, inout vec3 diffuse, inout vec3 s
     diffuse += color * max(slope, 0.0);
 #if SHINY
     float glance = max(dot(n, normalize(towards + viewerDirection())), 0.0);
-    float sharpness = max(float(surface.material.w >> 24) * (128.0 / 255.0), 1.0);
+    float sharpness = max(surface.shine.w * 128.0, 1.0);
     shine += slope > 0.0 ? color * pow(glance, sharpness) : vec3(0.0);
 #endif
 }
@@ -124,9 +124,9 @@ vec3 illuminate(vec3 base)
         addLight(lights[i].color.rgb * reach(path) * cone, n, towards, diffuse, shine);
     }
 #endif
-    vec3 sum = unpackColor(surface.material.z).rgb + unpackColor(surface.material.y).rgb * ambient.rgb + base * diffuse;
+    vec3 sum = surface.glow + base * diffuse;
 #if SHINY
-    sum += unpackColor(surface.material.w).rgb * shine;
+    sum += surface.shine.rgb * shine;
 #endif
     return sum;
 }
@@ -153,14 +153,14 @@ void main()
 #if OUTPUT == ONE_COLOR
     result = oneColor;
 #else
-    vec4 base = unpackColor(surface.material.x);
+    vec4 base = surface.base;
 #if VERTEX_COLORS
     base = surface.color;
 #endif
 #if LIT
     result = vec4(illuminate(base.rgb), base.a);
 #else
-    result = vec4(base.rgb + unpackColor(surface.material.z).rgb, base.a);
+    result = vec4(base.rgb + surface.glow, base.a);
 #endif
 $each texture
 #if MODEL@ == 0

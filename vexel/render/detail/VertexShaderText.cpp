@@ -63,7 +63,14 @@ $each texture
     surface.coordinates@ = found@.xyz / found@.w;
 $end
 #if OUTPUT != ONE_COLOR
-    surface.material = material;
+    surface.base = unpackColor(material.x);
+    surface.glow = unpackColor(material.z).rgb;
+#if LIT
+    surface.glow += unpackColor(material.y).rgb * ambient.rgb;
+#endif
+#if SHINY
+    surface.shine = unpackColor(material.w);
+#endif
 #endif
 #if TOPOLOGY == POINTS
     gl_PointSize = pointSize;
@@ -109,7 +116,11 @@ $each texture
     surface.coordinates@ = ends[end].coordinates@;
 $end
 #if OUTPUT != ONE_COLOR
-    surface.material = ends[end].material;
+    surface.base = ends[end].base;
+    surface.glow = ends[end].glow;
+#if SHINY
+    surface.shine = ends[end].shine;
+#endif
 #endif
     surface.stroke = stroke;
 #if CLIP_PLANES
