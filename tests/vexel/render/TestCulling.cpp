@@ -50,6 +50,23 @@ TEST_F(CullingTest, WhatIsInSightIsDrawnWhereverTheCameraLooks)
     EXPECT_COLOR(at(draw(), 0, 0), 0, 0, 0);
 }
 
+TEST_F(CullingTest, FarFromTheOriginThingsAreAsExactAsNearIt)
+{
+    const auto show = [&](float away) {
+        for (const float half : {0.613f, 0.317f, 0.123f}) {
+            RenderPacket packet = plain(square(half, 0.5f - half), SbVec3f(1, half, 0));
+            packet.matrix = moved(away, -away, away);
+            list.add(scene, packet);
+        }
+        view.view = moved(-away, away, -away);
+        const QImage picture = draw();
+        list.removeSegment(scene);
+        scene = list.addSegment({});
+        return picture;
+    };
+    EXPECT_EQ(show(0), show(1e6f));
+}
+
 TEST_F(CullingTest, BrokenCoordinatesHideNothingElse)
 {
     RenderGeometryArrays arrays = square(0.5f)->arrays();

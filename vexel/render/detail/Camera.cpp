@@ -19,22 +19,44 @@ SbMatrix cropTo(const std::array<float, 4>& window)
     return crop;
 }
 
+/** The view for places relative to an origin: what is left of its translation is small, and exact. */
+SbMatrix relativeTo(const float* origin, const SbMatrix& view)
+{
+    SbMatrix result = view;
+    for (int column = 0; column < 3; ++column) {
+        double sum = view[3][column];
+        for (int row = 0; row < 3; ++row)
+            sum += static_cast<double>(origin[row]) * view[row][column];
+        result[3][column] = static_cast<float>(sum);
+    }
+    return result;
+}
+
+void copy(float* to, const SbMatrix& from)
+{
+    std::memcpy(to, from.getValue(), 16 * sizeof(float));
+}
+
 } // namespace
 
-Camera::Camera(const RenderView& source)
+Camera::Camera(const RenderView& source) : origin{}, eye{}
 {
-    const SbMatrix both = source.view * source.projection * cropTo(source.window);
-    std::memcpy(viewProjection, both.getValue(), sizeof viewProjection);
-    std::memcpy(view, source.view.getValue(), sizeof view);
     const SbMatrix back = source.view.inverse();
-    const bool parallel = source.projection[2][3] == 0;
-    const float* row = back[parallel ? 2 : 3];
-    float length = 1;
-    if (parallel)
-        length = std::sqrt(row[0] * row[0] + row[1] * row[1] + row[2] * row[2]);
     for (int i = 0; i < 3; ++i)
-        eye[i] = row[i] / length;
-    eye[3] = parallel ? 0.0f : 1.0f;
+        origin[i] = back[3][i];
+    const SbMatrix relative = relativeTo(origin, source.view);
+    const SbMatrix to_clip = source.projection * cropTo(source.window);
+    copy(view, relative);
+    copy(viewProjection, relative * to_clip);
+    copy(worldToClip, source.view * to_clip);
+    if (source.projection[2][3] == 0) {
+        SbVec3f towards(back[2][0], back[2][1], back[2][2]);
+        towards.normalize();
+        for (int i = 0; i < 3; ++i)
+            eye[i] = towards[i];
+    } else {
+        eye[3] = 1;
+    }
     viewport[0] = static_cast<float>(source.viewport.x);
     viewport[1] = static_cast<float>(source.viewport.y);
     viewport[2] = static_cast<float>(source.viewport.width);
@@ -56,7 +78,7 @@ float Camera::distanceOf(const Bounds& bounds) const
 {
     float depth = view[14];
     for (int axis = 0; axis < 3; ++axis)
-        depth += 0.5f * (bounds.lo[axis] + bounds.hi[axis]) * view[axis * 4 + 2];
+        depth += (0.5f * (bounds.lo[axis] + bounds.hi[axis]) - origin[axis]) * view[axis * 4 + 2];
     return -depth;
 }
 

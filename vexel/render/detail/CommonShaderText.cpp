@@ -14,6 +14,7 @@ const char* const CommonShaderText = R"(
 layout(std140) uniform Frame {
     mat4 viewProjection;
     mat4 view;
+    vec4 origin;    // all places in the shaders are relative to it: near the eye, so that they are exact there
     vec4 eye;       // place (w 1), or direction towards the viewer (w 0)
     vec4 viewport;  // x, y, width, height
 };
@@ -31,6 +32,11 @@ layout(std140) uniform Surroundings {
     Light lights[8];
     vec4 clipPlanes[6];
 };
+
+float clipDistance(int plane, vec4 place)
+{
+    return dot(clipPlanes[plane], place + vec4(origin.xyz, 0.0));
+}
 
 vec4 unpackColor(uint c)
 {

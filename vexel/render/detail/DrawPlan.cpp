@@ -38,7 +38,7 @@ void DrawPlan::update(const DrawListData& list, std::uint32_t segment, const Cam
     m_camera = camera;
     m_opaque.clear();
     m_transparent.clear();
-    const Frustum frustum = Frustum::ofClipMatrix(camera.viewProjection);
+    const Frustum frustum = Frustum::ofClipMatrix(camera.worldToClip);
     list.segment(segment).findVisible(frustum, [&](const PacketBatch& batch) {
         if (list.state(batch).style.draw == RenderStyle::Draw::Invisible)
             return;

@@ -111,13 +111,13 @@ vec3 illuminate(vec3 base)
 #endif
 #if POINT
     for (int i = DIRECTIONAL; i < DIRECTIONAL + POINT; ++i) {
-        vec3 path = lights[i].place.xyz - surface.place;
+        vec3 path = lights[i].place.xyz - origin.xyz - surface.place;
         addLight(lights[i].color.rgb * reach(path), n, normalize(path), diffuse, shine);
     }
 #endif
 #if SPOT
     for (int i = DIRECTIONAL + POINT; i < LIGHTS; ++i) {
-        vec3 path = lights[i].place.xyz - surface.place;
+        vec3 path = lights[i].place.xyz - origin.xyz - surface.place;
         vec3 towards = normalize(path);
         float inside = dot(-towards, lights[i].direction.xyz);
         float cone = inside >= lights[i].place.w ? pow(max(inside, 1e-6), lights[i].direction.w) : 0.0;

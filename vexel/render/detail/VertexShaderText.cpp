@@ -41,7 +41,8 @@ vec2 mirrored(vec4 world)
 void main()
 {
     vec4 local = vec4(position, 1.0);
-    vec4 world = vec4(dot(rowX, local), dot(rowY, local), dot(rowZ, local), 1.0);
+    vec4 world = vec4(dot(rowX.xyz, position), dot(rowY.xyz, position), dot(rowZ.xyz, position), 1.0);
+    world.xyz += vec3(rowX.w, rowY.w, rowZ.w) - origin.xyz;
     gl_Position = viewProjection * world;
 #if LIT && !FACET_NORMALS
     surface.normal = worldNormal(normal);
@@ -80,7 +81,7 @@ $end
 #else
 #if CLIP_PLANES
     for (int i = 0; i < CLIP_PLANES; ++i)
-        gl_ClipDistance[i] = dot(clipPlanes[i], world);
+        gl_ClipDistance[i] = clipDistance(i, world);
 #endif
 #endif
 #if OUTPUT == ONE_COLOR
@@ -125,7 +126,7 @@ $end
     surface.stroke = stroke;
 #if CLIP_PLANES
     for (int i = 0; i < CLIP_PLANES; ++i)
-        gl_ClipDistance[i] = mix(dot(clipPlanes[i], worldPlace[end]), dot(clipPlanes[i], worldPlace[1 - end]), shift);
+        gl_ClipDistance[i] = mix(clipDistance(i, worldPlace[end]), clipDistance(i, worldPlace[1 - end]), shift);
 #endif
     EmitVertex();
 }
