@@ -58,6 +58,19 @@ TEST_F(SegmentTest, ASegmentMayHaveItsOwnCameraAndViewport)
     EXPECT_COLOR(at(picture, 0.5f, -0.5f), 0, 0, 0);
 }
 
+TEST_F(SegmentTest, SegmentsThatTakeAnotherOnesNumberStartAfresh)
+{
+    RenderPacket packet = plain(square(0.5f), SbVec3f(1, 0, 0));
+    packet.material.transparency = 0.5f;
+    list.add(scene, packet);
+    draw();
+    list.removeSegment(scene);
+    RenderSegment callback;
+    callback.kind = RenderSegment::Kind::Callback;
+    EXPECT_EQ(scene, list.addSegment(callback));
+    EXPECT_COLOR(at(draw(), 0, 0), 0, 0, 0);
+}
+
 TEST_F(SegmentTest, OptionsOverrideTheList)
 {
     RenderPacket packet = plain(square(0.5f), SbVec3f(1, 1, 1));

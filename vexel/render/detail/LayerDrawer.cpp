@@ -63,6 +63,8 @@ void LayerDrawer::draw(const DrawListData& list, ListCache& cache, const std::ve
             m_packets.draw(list, plan.transparent(), cache.mirror.buffer(), pass);
     }
     for (const std::uint32_t id : segments) {
+        if (list.segment(id).description.kind == RenderSegment::Kind::Callback)
+            continue;
         ListCache::Segment& segment = cache.segments[id];
         if (!segment.plan.transparent().empty() && options.transparency != Transparency::None)
             drawTransparent(list, cache, segment, viewOf(list.segment(id).description, view), options);
