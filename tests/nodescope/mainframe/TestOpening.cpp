@@ -54,7 +54,7 @@ TEST_F(SceneFilesTest, WhatIsGoodOfADamagedSceneIsShown)
 {
     ModalAnswers answers;
     answers.expectBox("NodescopeReadFile", [](QMessageBox& box) {
-        EXPECT_TRUE(box.text().contains("line 4")) << box.text();
+        EXPECT_TRUE(box.text().contains("a.vx:4:")) << box.text();
         EXPECT_EQ(box.detailedText(), "");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
     });
