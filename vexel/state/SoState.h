@@ -160,6 +160,8 @@ struct SoStateValues {
 
     /** Child that the switch above shows; what a switch with SO_SWITCH_INHERIT takes over. */
     int switchChild = -1;
+    /** Below an Annotation: drawn last, in front of everything else. */
+    bool isAnnotation = false;
 
     int numLights = 0;
     int numClipPlanes = 0;

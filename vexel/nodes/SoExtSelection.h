@@ -1,0 +1,26 @@
+#pragma once
+
+#include <vexel/fields/SoEnumEntry.h>
+#include <vexel/fields/SoSFEnum.h>
+#include <vexel/nodes/SoSelection.h>
+
+/** A selection that can also be made by drawing a line about things on the screen. */
+class VEXEL_API SoExtSelection : public SoSelection {
+    SO_NODE(SoExtSelection, SoSelection)
+public:
+    enum LassoType { NOLASSO, LASSO, RECTANGLE, ELLIPSE };
+    static constexpr SoEnumEntry LassoType_names[] = {
+        {"NOLASSO", NOLASSO}, {"LASSO", LASSO}, {"RECTANGLE", RECTANGLE}, {"ELLIPSE", ELLIPSE}};
+    enum LassoPolicy { FULL_BBOX, PART_BBOX, FULL, PART };
+    static constexpr SoEnumEntry LassoPolicy_names[] = {
+        {"FULL_BBOX", FULL_BBOX}, {"PART_BBOX", PART_BBOX}, {"FULL", FULL}, {"PART", PART}};
+    enum LassoMode { ALL_SHAPES, VISIBLE_SHAPES };
+    static constexpr SoEnumEntry LassoMode_names[] = {{"ALL_SHAPES", ALL_SHAPES}, {"VISIBLE_SHAPES", VISIBLE_SHAPES}};
+
+    /** The form that is drawn. */
+    SoSFEnum lassoType{this, "lassoType", NOLASSO, LassoType_names};
+    /** Whether shapes, or their boxes, must lie inside as a whole or in part. */
+    SoSFEnum lassoPolicy{this, "lassoPolicy", FULL_BBOX, LassoPolicy_names};
+    /** Whether hidden shapes count. */
+    SoSFEnum lassoMode{this, "lassoMode", ALL_SHAPES, LassoMode_names};
+};
