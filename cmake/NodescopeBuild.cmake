@@ -21,7 +21,13 @@ add_compile_options(-Wall -Wextra -Wpedantic -Werror)
 if(NODESCOPE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
-  add_compile_options(-Wno-maybe-uninitialized) # instrumented code makes the compiler see it where it is not, as in <regex>
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_compile_options(-Wno-maybe-uninitialized) # instrumented code makes the compiler see it where it is not, as in <regex>
+  endif()
+endif()
+
+if(NODESCOPE_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
 
 find_program(CCACHE_PROGRAM ccache)

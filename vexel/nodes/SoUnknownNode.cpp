@@ -20,6 +20,14 @@ SoField* SoUnknownNode::addField(SoType type, const SbName& name)
     return m_fields.back().get();
 }
 
+void SoUnknownNode::clearDeclarations()
+{
+    m_fieldData.clear();
+    m_fields.clear();
+    m_baseTypes.clear();
+    m_isDeclared = false;
+}
+
 void SoUnknownNode::copyDeclarations(const SoUnknownNode& from)
 {
     m_bodyText = from.m_bodyText;

@@ -29,6 +29,9 @@ public:
     bool isDeclared() const { return m_isDeclared; }
     void setDeclared(bool on) { m_isDeclared = on; }
 
+    /** Takes back all declarations of fields and base types. */
+    void clearDeclarations();
+
     /** The text between the braces, for a node whose contents are not known any better. */
     const std::string& getBodyText() const { return m_bodyText; }
     void setBodyText(std::string text) { m_bodyText = std::move(text); }

@@ -175,4 +175,30 @@ TEST(Reading, RefusesWhatIsNoSceneFile)
     EXPECT_FALSE(SoDB::isValidHeader(""));
 }
 
+class CutOff : public testing::TestWithParam<const char*> {};
+
+TEST_P(CutOff, IsCompletedSoThatItReadsBack)
+{
+    const ReadErrors errors;
+    const std::string once = rewritten(Header + GetParam());
+    EXPECT_FALSE(errors.texts.empty());
+    const ReadErrors none;
+    EXPECT_EQ(rewritten(once), once);
+    EXPECT_TRUE(none.texts.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(Reading, CutOff,
+                         testing::Values("Separator { Gadget { size 1 { 2 ", "Separator { Gadget { label \"a } b",
+                                         "Separator { Gadget { label \"a\\", "Holder { Gadget {# comment",
+                                         "Gadget { fields [ SFBool a SFNothing b ] a TRUE {"));
+
+TEST(Reading, ABraceMakesANodeOfAWordThatIsAFieldTooAndZeroIsWhiteSpace)
+{
+    const ReadErrors errors;
+    const std::string once = rewritten(Header + "Separator { renderCulling { size 1 } renderCulling ON }");
+    EXPECT_TRUE(errors.texts.empty());
+    EXPECT_EQ(rewritten(once), once);
+    EXPECT_EQ(rewritten(Header + std::string("Separator\0{ \0 }", 15)), rewritten(Header + "Separator { }"));
+}
+
 } // namespace

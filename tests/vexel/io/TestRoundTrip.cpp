@@ -132,7 +132,6 @@ TEST(RoundTrip, APathComesBack)
     EXPECT_EQ(again->getLength(), 3);
     EXPECT_EQ(again->getIndex(1), 1);
     EXPECT_EQ(again->getIndex(2), 1);
-    again->unref();
     path->unref();
 }
 

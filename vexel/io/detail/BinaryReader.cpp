@@ -1,5 +1,6 @@
 #include <vexel/io/detail/BinaryReader.h>
 
+#include <algorithm>
 #include <cstring>
 #include <string>
 
@@ -14,6 +15,18 @@
 #include <vexel/io/detail/BinaryFormat.h>
 #include <vexel/io/detail/SceneReader.h>
 #include <vexel/nodes/SoUnknownNode.h>
+
+namespace {
+
+// What an ascii file can hold as the type of a node.
+bool isTypeName(std::string_view name)
+{
+    static constexpr std::string_view Keywords[] = {"DEF", "USE", "NULL", "Path", "GlobalField"};
+    return !name.empty() && std::all_of(name.begin(), name.end(), TextReader::isWordCharacter) &&
+           std::find(std::begin(Keywords), std::end(Keywords), name) == std::end(Keywords);
+}
+
+} // namespace
 
 BinaryReader::BinaryReader(SoInput& in, const char* data, std::size_t size)
     : m_in(in), m_start(data), m_rest{data, data + size}
@@ -155,6 +168,8 @@ bool BinaryReader::readContainer(const Chunk& chunk, SoBase*& base)
         return false;
     body.at = chunk.body.at + std::min<std::size_t>(BinaryFormat::Alignment, chunk.body.size());
 
+    if (!isTypeName(typeName))
+        return post(chunk.body.at, "the name of a node type is none");
     const SoType type = SoType::fromName(SbName(typeName));
     const bool isKnown = type.isDerivedFrom(SoFieldContainer::getClassTypeId()) && type.canCreateInstance() &&
                          type != SoUnknownNode::getClassTypeId();
@@ -235,14 +250,14 @@ bool BinaryReader::readField(SoFieldContainer& container, const Chunk& chunk)
         return true;
     }
     std::vector<SoBase*> objects;
+    Chunk connection;
     while (body.size() > 0) {
         Chunk part;
         if (!takeChunk(body, part))
             return false;
         SoBase* object = nullptr;
         if (part.kind == BinaryFormat::Connection) {
-            if (!readConnection(*field, part))
-                return false;
+            connection = part;
         } else if (part.kind == BinaryFormat::Values || part.kind == BinaryFormat::Text) {
             if (!readValue(*field, part, count))
                 return false;
@@ -254,6 +269,9 @@ bool BinaryReader::readField(SoFieldContainer& container, const Chunk& chunk)
     }
     if (kind == BinaryFormat::Container && (flags & BinaryFormat::HasValue))
         field->setReferences(objects);
+    // The connection comes last: it gives the value that counts.
+    if (connection.kind == BinaryFormat::Connection && !readConnection(*field, connection))
+        return false;
     field->setDefault((flags & BinaryFormat::HasValue) == 0 && !field->isConnected());
     if (flags & BinaryFormat::IsIgnored)
         field->setIgnored(true);

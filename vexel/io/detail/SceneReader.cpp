@@ -41,14 +41,14 @@ SceneReader::SceneReader(SoInput& in) : m_in(in), m_text(in.text()) {}
 
 SceneReader::~SceneReader()
 {
-    for (SoFieldContainer* container : m_kept)
-        container->unref();
+    for (SoBase* base : m_kept)
+        base->unref();
 }
 
-void SceneReader::keep(SoFieldContainer* container)
+void SceneReader::keep(SoBase* base)
 {
-    container->ref();
-    m_kept.push_back(container);
+    base->ref();
+    m_kept.push_back(base);
 }
 
 SceneReader::Item SceneReader::readItem(SoNode*& node, SoPath*& path)
@@ -216,7 +216,9 @@ bool SceneReader::readBody(SoFieldContainer& container, const char* opening)
         const char* start = m_text.position();
         const std::string_view word = m_text.readWord();
         bool good = true;
-        if (SoField* field = word.empty() ? nullptr : container.getField(SbName(word))) {
+        // A brace behind a word makes it the type of a node, even where a field has the same name.
+        SoField* field = word.empty() || m_text.peek() == '{' ? nullptr : container.getField(SbName(word));
+        if (field) {
             good = readField(*field);
         } else {
             m_text.setPosition(start);
@@ -281,8 +283,9 @@ void SceneReader::skipUnknownField(const SoFieldContainer& container)
             return;
         const char* start = m_text.position();
         const std::string_view word = m_text.readWord();
-        const bool isField = !word.empty() && container.getField(SbName(word));
-        const bool isNode = !word.empty() && m_text.peek() == '{' && !SoType::fromName(SbName(word)).isBad();
+        const bool hasBrace = m_text.peek() == '{';
+        const bool isField = !word.empty() && !hasBrace && container.getField(SbName(word));
+        const bool isNode = !word.empty() && hasBrace && !SoType::fromName(SbName(word)).isBad();
         m_text.setPosition(start);
         if (isField || isNode || ((word == "DEF" || word == "USE") && isNodeAhead()))
             return;
@@ -374,7 +377,7 @@ bool SceneReader::readPath(SoPath*& path)
     bool good = readContainer(SoNode::getClassTypeId(), head) && m_in.readNumber(count);
     if (good && head) {
         path = new SoPath(static_cast<SoNode*>(head));
-        path->ref();
+        keep(path);
         for (int i = 0; i < count && good; ++i) {
             int index = 0;
             good = m_in.readNumber(index);
@@ -384,7 +387,6 @@ bool SceneReader::readPath(SoPath*& path)
                 break;
             }
         }
-        path->unrefNoDelete();
     }
     if (!m_text.skipBlock('{', '}'))
         m_in.postErrorAt(m_text.end(), "the closing brace of a Path is missing");

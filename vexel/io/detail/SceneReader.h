@@ -7,6 +7,7 @@
 
 #include <vexel/base/SoType.h>
 
+class SoBase;
 class SoField;
 class SoFieldContainer;
 class SoInput;
@@ -26,7 +27,7 @@ public:
 
     /** What may stand at the top of a file. */
     enum class Item { Node, Path, Global, Nothing, Error };
-    /** Reads the next item; one reference is held on a node or path. */
+    /** Reads the next item; nodes and paths are held by the reader until it ends. */
     Item readItem(SoNode*& node, SoPath*& path);
 
     /** Reads a container derived from @p family, or NULL; held by the reader until it ends. False after an error. */
@@ -59,12 +60,12 @@ private:
     bool isNodeAhead();
     bool readGlobal(SoField*& field);
     bool postMissingBrace(std::string_view typeName, const char* opening);
-    void keep(SoFieldContainer* container);
+    void keep(SoBase* base);
 
     SoInput& m_in;
     TextReader& m_text;
     std::unordered_map<std::string, Definition> m_definitions;
     // One reference on everything made, so that a part of the graph outlives an error in what should hold it.
-    std::vector<SoFieldContainer*> m_kept;
+    std::vector<SoBase*> m_kept;
     int m_depth = 0;
 };

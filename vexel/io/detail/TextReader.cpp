@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-// 1: white space, comma and the start of a comment; 2: everything that ends a word (the former included).
+// 1: white space, zero, comma and the start of a comment; 2: everything that ends a word (the former included).
 const unsigned char TextReader::Classes[256] = {
-    2, 0, 0, 0, 0, 0, 0, 0, 0, 3, 3, 0, 0, 3, 0, 0,
+    3, 0, 0, 0, 0, 0, 0, 0, 0, 3, 3, 0, 0, 3, 0, 0,
     0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, // control characters
     3, 0, 2, 3, 0, 0, 0, 0, 2, 2, 0, 0, 3, 0, 0, 0,
     0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 2, 0, 0, // blank " # ( ) , =

@@ -93,7 +93,7 @@ public:
     };
     Location locate(const char* place);
 
-    static bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r'; }
+    static bool isSpace(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\0'; }
     static bool isWordCharacter(char c) { return (Classes[static_cast<unsigned char>(c)] & NotInWord) == 0; }
 
 private:

@@ -5,11 +5,11 @@
 
 namespace {
 
-// Tells whether a body holds nothing but nodes, so that they can be its children.
+// Tells whether a body holds nothing but nodes, so that they can be its children; the last may be cut off.
 bool holdsOnlyNodes(TextReader text)
 {
     bool any = false;
-    for (char next = text.peek(); next != '}'; next = text.peek()) {
+    for (char next = text.peek(); next && next != '}'; next = text.peek()) {
         std::string_view word = text.readWord();
         if (word.empty())
             return false;
@@ -23,10 +23,36 @@ bool holdsOnlyNodes(TextReader text)
             text.readWord();
             word = text.readWord();
         }
-        if (word.empty() || !text.accept('{') || !text.skipBlock('{', '}'))
+        if (word.empty() || !text.accept('{'))
             return false;
+        text.skipBlock('{', '}');
     }
     return any;
+}
+
+// The text of a block that the end of the file cut off, with what is missing: an open quotation and open braces are
+// closed.
+std::string completed(const char* begin, const char* end)
+{
+    while (end > begin && TextReader::isSpace(end[-1]))
+        --end;
+    std::string body(begin, end);
+    TextReader text(begin, end);
+    int depth = 0;
+    while (const char c = text.peek()) {
+        std::string ignored;
+        if (c != '"') {
+            depth += c == '{' ? 1 : (c == '}' ? -1 : 0);
+            text.setPosition(text.position() + 1);
+        } else if (!text.readText(ignored)) {
+            const std::size_t backslashes = body.size() - body.find_last_not_of('\\') - 1;
+            body += backslashes % 2 == 1 ? "\\\"" : "\"";
+            break;
+        }
+    }
+    for (; depth > 0; --depth)
+        body += "\n}";
+    return body;
 }
 
 } // namespace
@@ -37,6 +63,7 @@ bool SceneReader::readUnknown(SoUnknownNode& node, const char* opening)
     if (readDeclarations(node) && (node.isDeclared() || holdsOnlyNodes(m_text)))
         return readBody(node, opening);
 
+    node.clearDeclarations();
     // Without declarations that make sense here, the text is the best that can be kept.
     m_text.setPosition(start);
     const bool isComplete = m_text.skipBlock('{', '}');
@@ -45,7 +72,7 @@ bool SceneReader::readUnknown(SoUnknownNode& node, const char* opening)
         ++start;
     while (end > start && TextReader::isSpace(end[-1]))
         --end;
-    node.setBodyText(std::string(start, end));
+    node.setBodyText(isComplete ? std::string(start, end) : completed(start, end));
     return isComplete || postMissingBrace(node.getNodeTypeName(), opening);
 }
 
