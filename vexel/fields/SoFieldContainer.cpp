@@ -128,7 +128,12 @@ bool SoFieldContainer::shouldWriteField(const SoField& field) const
 {
     if (field.getFieldType() == SoField::OUTPUT_ONLY || field.getFieldType() >= SoField::INTERNAL_PART)
         return false;
-    return !field.isDefault() || field.isIgnored() || field.isConnected();
+    return shouldWriteValue(field) || field.isIgnored() || field.isConnected();
+}
+
+bool SoFieldContainer::shouldWriteValue(const SoField& field) const
+{
+    return !field.isDefault();
 }
 
 bool SoFieldContainer::enableNotify(bool on)

@@ -76,6 +76,8 @@ public:
 
     /** True for a field that a file must hold: it has no default, is ignored or is connected. */
     virtual bool shouldWriteField(const SoField& field) const;
+    /** True when the file must hold the field's value too; otherwise its mark or connection is enough. */
+    virtual bool shouldWriteValue(const SoField& field) const;
 
     bool isNotifyEnabled() const { return m_notifyEnabled; }
     /** Switches notification of this object and of everything below that reaches listeners through it. */

@@ -9,12 +9,14 @@
 
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoReadError.h>
+#include <vexel/draggers/detail/ManipTypes.h>
 #include <vexel/fields/SoFieldContainer.h>
 #include <vexel/fields/SoSFTime.h>
 #include <vexel/fields/detail/FieldTypes.h>
 #include <vexel/io/SoInput.h>
 #include <vexel/io/SoOutput.h>
 #include <vexel/io/detail/GlobalFields.h>
+#include <vexel/nodekits/detail/KitTypes.h>
 #include <vexel/nodes/SoSeparator.h>
 #include <vexel/nodes/detail/NodeTypes.h>
 #include <vexel/sensors/SoSensorManager.h>
@@ -117,6 +119,8 @@ void SoDB::init()
     db.isInitialized = true;
     SoVexelBase::init();
     registerNodeTypes();
+    registerKitTypes();
+    registerManipTypes();
     createGlobalField("realTime", SoSFTime::getClassTypeId());
     static SoTimerSensor clock(setRealTime);
     setRealTime(nullptr, nullptr);

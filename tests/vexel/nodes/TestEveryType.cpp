@@ -13,6 +13,7 @@
 #include <vexel/io/SoInput.h>
 #include <vexel/io/SoOutput.h>
 #include <vexel/nodekits/SoBaseKit.h>
+#include <vexel/nodekits/SoNodeKitListPart.h>
 #include <vexel/nodes/SoUnknownNode.h>
 
 namespace {
@@ -155,7 +156,7 @@ TEST_F(EveryType, IsWrittenAndReadAgainWithAllItsFields)
         auto* node = static_cast<SoNode*>(type.createInstance());
         node->ref();
         // The parts of kits are fields that take nodes of certain types only.
-        const bool isKit = type.isDerivedFrom(SoBaseKit::getClassTypeId());
+        const bool isKit = type.isDerivedFrom(SoBaseKit::getClassTypeId()) || type == SoNodeKitListPart::getClassTypeId();
         for (SoField* field : node->getFields()) {
             if (isKit && field->isOfType(SoSFNode::getClassTypeId()))
                 continue;

@@ -162,7 +162,7 @@ void BinaryWriter::writeContainer(const SoFieldContainer* container)
     for (int i = 0; i < data.getNumFields(); ++i) {
         const SoField* field = data.getField(container, i);
         if (container->shouldWriteField(*field))
-            writeField(*field, data.getFieldName(i).getView());
+            writeField(*container, *field, data.getFieldName(i).getView());
     }
     if (!node || !node->hasFileChildren())
         return;
@@ -171,10 +171,10 @@ void BinaryWriter::writeContainer(const SoFieldContainer* container)
         writeContainer(children[i]);
 }
 
-void BinaryWriter::writeField(const SoField& field, std::string_view name)
+void BinaryWriter::writeField(const SoFieldContainer& container, const SoField& field, std::string_view name)
 {
     const Chunk chunk(*this, BinaryFormat::Field, nameIndex(name));
-    const bool hasValue = !field.isDefault();
+    const bool hasValue = container.shouldWriteValue(field);
     putNumber((hasValue ? BinaryFormat::HasValue : 0u) | (field.isIgnored() ? BinaryFormat::IsIgnored : 0u));
     SoField::RawValues raw;
     const bool isRaw = field.getRawValues(raw);

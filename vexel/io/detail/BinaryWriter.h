@@ -26,7 +26,7 @@ private:
     void writeContainer(const SoFieldContainer* container);
     void writeReference(const SoBase* base);
     void writePath(const SoPath* path);
-    void writeField(const SoField& field, std::string_view name);
+    void writeField(const SoFieldContainer& container, const SoField& field, std::string_view name);
     void writeConnection(const SoField& field);
     void writeText(std::uint32_t kind, std::uint32_t argument, std::string_view text);
 

@@ -185,7 +185,7 @@ void SceneWriter::writeFields(const SoFieldContainer& container)
             continue;
         m_out.writeNewLine();
         m_out.write(data.getFieldName(i).getView());
-        if (!field->isDefault()) {
+        if (container.shouldWriteValue(*field)) {
             m_out.write(' ');
             field->writeValue(m_out);
         }

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <vexel/nodes/SoChildList.h>
+#include <vexel/nodes/SoClipPlane.h>
+
+class SoDragger;
+class SoPath;
+
+/** A clip plane that the user can change with a dragger, which is its only child and not written with it. */
+class VEXEL_API SoClipPlaneManip : public SoClipPlane {
+    SO_NODE(SoClipPlaneManip, SoClipPlane)
+public:
+    SoClipPlaneManip() = default;
+
+    /** Null for none. */
+    SoDragger* getDragger() const;
+    void setDragger(SoDragger* dragger);
+
+    /**
+     * Puts this node in the place of the clip plane at the end of the path, with its values and connections. False,
+     * with nothing changed, when the path does not end at a clip plane that is a child or part.
+     */
+    bool replaceNode(SoPath* path);
+    /** Puts a plain node, or a new one for null, in the place of this node at the end of the path. */
+    bool replaceManip(SoPath* path, SoClipPlane* node) const;
+
+    SoChildList* getChildren() const override { return &m_children; }
+    void doAction(SoAction& action) override;
+
+private:
+    mutable SoChildList m_children{this};
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <vexel/nodes/SoChildList.h>
+#include <vexel/nodes/SoPointLight.h>
+
+class SoDragger;
+class SoPath;
+
+/** A point light that the user can change with a dragger, which is its only child and not written with it. */
+class VEXEL_API SoPointLightManip : public SoPointLight {
+    SO_NODE(SoPointLightManip, SoPointLight)
+public:
+    SoPointLightManip() = default;
+
+    /** Null for none. */
+    SoDragger* getDragger() const;
+    void setDragger(SoDragger* dragger);
+
+    /**
+     * Puts this node in the place of the point light at the end of the path, with its values and connections. False,
+     * with nothing changed, when the path does not end at a point light that is a child or part.
+     */
+    bool replaceNode(SoPath* path);
+    /** Puts a plain node, or a new one for null, in the place of this node at the end of the path. */
+    bool replaceManip(SoPath* path, SoPointLight* node) const;
+
+    SoChildList* getChildren() const override { return &m_children; }
+    void doAction(SoAction& action) override;
+
+private:
+    mutable SoChildList m_children{this};
+};
