@@ -280,6 +280,14 @@ void SoBaseKit::arrangeBelow(int parent, SoChildList& children)
 void SoBaseKit::copyContents(const SoNode& from, SoCopyMap& copies)
 {
     m_isHeld = true;
+    // A part that the kit made by itself counts as default whatever it holds, so it is taken over in any case.
+    const auto& source = static_cast<const SoBaseKit&>(from);
+    for (int part = 1; part < getNodekitCatalog().getNumEntries(); ++part) {
+        if (SoSFNode* field = getPartField(part)) {
+            field->copyFrom(*source.getPartField(part));
+            field->setDefault(source.getPartField(part)->isDefault());
+        }
+    }
     SoNode::copyContents(from, copies);
     m_isHeld = false;
 }

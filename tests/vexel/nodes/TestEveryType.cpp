@@ -156,7 +156,8 @@ TEST_F(EveryType, IsWrittenAndReadAgainWithAllItsFields)
         auto* node = static_cast<SoNode*>(type.createInstance());
         node->ref();
         // The parts of kits are fields that take nodes of certain types only.
-        const bool isKit = type.isDerivedFrom(SoBaseKit::getClassTypeId()) || type == SoNodeKitListPart::getClassTypeId();
+        const bool isKit =
+            type.isDerivedFrom(SoBaseKit::getClassTypeId()) || type == SoNodeKitListPart::getClassTypeId();
         for (SoField* field : node->getFields()) {
             if (isKit && field->isOfType(SoSFNode::getClassTypeId()))
                 continue;
