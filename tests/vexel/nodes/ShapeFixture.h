@@ -87,8 +87,9 @@ protected:
         for (std::size_t i = 0; i < geometry().triangles.size(); ++i) {
             const SbVec3f& normal = geometry().normals[geometry().triangles[i]];
             EXPECT_NEAR(normal.length(), 1, 1e-5);
-            if (cross(i / 3).length() > 1e-6)
+            if (cross(i / 3).length() > 1e-6) {
                 EXPECT_GT(normal.dot(cross(i / 3)), 0) << "corner " << i;
+            }
         }
     }
 

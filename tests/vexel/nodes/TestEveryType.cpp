@@ -180,7 +180,7 @@ TEST_F(EveryType, IsWrittenAndReadAgainWithAllItsFields)
         again->unref();
         node->unref();
     }
-    EXPECT_GT(numTypes, 50);
+    EXPECT_GT(numTypes, 100);
 }
 
 TEST_F(EveryType, HasNothingToWriteWhenNew)

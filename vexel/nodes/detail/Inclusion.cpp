@@ -44,8 +44,10 @@ SbString Inclusion::find(const SbString& name, const SoInput* includer, SoInput&
     }
     if (found.isEmpty())
         found = in.findFile(name);
-    if (found.isEmpty())
+    if (found.isEmpty()) {
         SoReadError::post(name, "there is no such file to include");
+        return found;
+    }
     return SbFileHelper::getFullPath(found);
 }
 

@@ -13,7 +13,7 @@ using Ring = std::vector<SbVec3f>;
 // The rings of an outline with its curves cut into lines, fine enough for letters as high as a window.
 std::vector<Ring> ringsOf(const QPainterPath& outline)
 {
-    constexpr qreal Fineness = 64;
+    constexpr qreal Fineness = 128;
     std::vector<Ring> rings;
     const QList<QPolygonF> polygons = outline.toSubpathPolygons(QTransform::fromScale(Fineness, Fineness));
     for (const QPolygonF& polygon : polygons) {
@@ -31,12 +31,33 @@ std::vector<Ring> ringsOf(const QPainterPath& outline)
     return rings;
 }
 
+// The outline with its curves cut into lines, so that a point beside a line is never between line and curve.
+QPainterPath flattened(const std::vector<Ring>& rings)
+{
+    QPainterPath path;
+    path.setFillRule(Qt::OddEvenFill);
+    for (const Ring& ring : rings) {
+        QPolygonF polygon;
+        for (const SbVec3f& point : ring)
+            polygon << QPointF(point[0], point[1]);
+        path.addPolygon(polygon);
+        path.closeSubpath();
+    }
+    return path;
+}
+
 // Kinds of fonts differ in the way their outlines run, so the outline itself is asked for what it fills.
 bool isFilledOnTheLeft(const QPainterPath& outline, const Ring& ring)
 {
-    constexpr float Aside = 1e-3f;
-    const SbVec3f middle = (ring[0] + ring[1]) / 2;
-    SbVec3f along = ring[1] - ring[0];
+    constexpr float Aside = 1e-4f;
+    SbVec3f along;
+    SbVec3f middle;
+    for (std::size_t i = 1; i < ring.size(); ++i) {
+        if ((ring[i] - ring[i - 1]).sqrLength() > along.sqrLength()) {
+            along = ring[i] - ring[i - 1];
+            middle = (ring[i] + ring[i - 1]) / 2;
+        }
+    }
     along.normalize();
     return outline.contains(QPointF(middle[0] - along[1] * Aside, middle[1] + along[0] * Aside));
 }
@@ -77,8 +98,10 @@ void OutlineFiller::addArea(const QPainterPath& outline, float depth, const SbVe
 
 void OutlineFiller::addWalls(const QPainterPath& outline, float depth, int part)
 {
-    for (Ring& ring : ringsOf(outline)) {
-        if (!isFilledOnTheLeft(outline, ring))
+    std::vector<Ring> rings = ringsOf(outline);
+    const QPainterPath flat = flattened(rings);
+    for (Ring& ring : rings) {
+        if (!isFilledOnTheLeft(flat, ring))
             std::reverse(ring.begin(), ring.end());
         for (std::size_t i = 0; i < ring.size(); ++i) {
             const SbVec3f& a = ring[i];
