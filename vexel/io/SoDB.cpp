@@ -189,6 +189,8 @@ SoSeparator* SoDB::readAll(SoInput* in)
     if (result)
         result->ref();
     root->unref();
+    // What the reader holds goes now, so that every reference left belongs to the graph.
+    in->dropReaders();
     if (result)
         result->unrefNoDelete();
     return result;

@@ -77,10 +77,15 @@ void SoInput::setText(const char* data, std::size_t size)
     m_errors = 0;
 }
 
-void SoInput::closeFile()
+void SoInput::dropReaders()
 {
     m_reader.reset();
     m_binaryReader.reset();
+}
+
+void SoInput::closeFile()
+{
+    dropReaders();
     m_text = TextReader();
     m_content.reset();
     m_fileName = SbString();

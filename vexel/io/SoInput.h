@@ -100,6 +100,7 @@ private:
 
     void setText(const char* data, std::size_t size);
     bool checkHeader();
+    void dropReaders();
     /** Reads the next node or path; it is held until the input is closed. */
     Item readItem(SoBase*& base);
     void reportProgress(const char* position);

@@ -1,0 +1,430 @@
+#include "SoNodescopeTreeView.h"
+#include "SoTreeViewItem.h"
+#include "detail/CategoryFilter.h"
+#include "detail/ClassReference.h"
+#include "detail/ReferenceHiding.h"
+#include "detail/RowBuilder.h"
+#include "detail/RowDelegate.h"
+#include "detail/RowHighlighter.h"
+#include "detail/RowSources.h"
+#include "detail/RowTexts.h"
+#include "detail/TreeStyleSheet.h"
+
+#include <vexel/base/SoPath.h>
+#include <vexel/base/SoPreferences.h>
+#include <vexel/nodes/SoSelection.h>
+#include <vexel/nodes/SoWWWInline.h>
+
+#include <QDesktopServices>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QTimer>
+#include <QTreeWidgetItemIterator>
+
+namespace {
+
+const bool Highlights_automatically = SoPreferences::getBool("VXL_NODESCOPE_AUTO_HIGHLIGHT", true);
+
+SoTreeViewItem* asRow(QTreeWidgetItem* item)
+{
+    return static_cast<SoTreeViewItem*>(item);
+}
+
+} // namespace
+
+SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
+    : QTreeWidget(parent), m_registry(this), m_filter(std::make_unique<CategoryFilter>(this)),
+      m_references(std::make_unique<ReferenceHiding>(m_registry)), m_highlighter(std::make_unique<RowHighlighter>())
+{
+    setColumnCount(SoTreeViewItem::ColumnCount);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(20);
+    setHeaderLabels({tr("Type"), tr("Name"), tr("Ref. Count"), QString(), QString()});
+    setColumnWidth(SoTreeViewItem::ReferenceIconColumn, 44);
+    setColumnWidth(SoTreeViewItem::TypeColumn, 200);
+    setColumnWidth(SoTreeViewItem::NameColumn, 120);
+    setColumnWidth(SoTreeViewItem::BookmarkColumn, 24);
+    setUniformRowHeights(true);
+    setIconSize(QSize(20, 20));
+    setStyleSheet(treeStyleSheet());
+    setItemDelegate(new RowDelegate(this));
+    setContextMenuPolicy(Qt::CustomContextMenu);
+    setAccessibleName(tr("Scene graph"));
+
+    connect(this, &QTreeWidget::currentItemChanged, this, &SoNodescopeTreeView::selectChange);
+    connect(this, &QTreeWidget::itemClicked, this, &SoNodescopeTreeView::onItemClicked);
+    connect(this, &QTreeWidget::customContextMenuRequested, this, &SoNodescopeTreeView::onCustomContextMenu);
+    connect(this, &QTreeWidget::itemExpanded, this,
+            [this](QTreeWidgetItem* item) { makePendingChildren(asRow(item)); });
+    connect(this, &QTreeWidget::itemExpanded, this, &SoNodescopeTreeView::resizeAllColumns);
+    connect(this, &QTreeWidget::itemCollapsed, this, &SoNodescopeTreeView::resizeAllColumns);
+    connect(this, &SoNodescopeTreeView::newSceneGraph, this, &SoNodescopeTreeView::reset);
+    initPreferences();
+}
+
+SoNodescopeTreeView::~SoNodescopeTreeView()
+{
+    setSceneGraph(nullptr);
+    m_registry.clear();
+}
+
+void SoNodescopeTreeView::setSceneGraph(SoSelection* root)
+{
+    const auto pick = [](void* view, SoPath* path) {
+        static_cast<SoNodescopeTreeView*>(view)->selectPickedPath(*path);
+    };
+    if (m_root)
+        m_root->removeSelectionCallback(pick, this);
+    m_root = root;
+    m_highlighter->setSelection(root);
+    if (m_root)
+        m_root->addSelectionCallback(pick, this);
+}
+
+SoTreeViewItem* SoNodescopeTreeView::currentRow() const
+{
+    return asRow(currentItem());
+}
+
+void SoNodescopeTreeView::reset(SoNode* node)
+{
+    m_registry.clear();
+    const bool notifies = m_notifiesSelection;
+    m_notifiesSelection = false;
+    clear();
+    m_isBuiltOnDemand = node && !RowBuilder::makesAtMost(*node, MostRowsAtOnce);
+    SoTreeViewItem* top = createItem(node, nullptr, nullptr, -1);
+    if (top) {
+        makePendingChildren(top);
+        if (m_filter->mask() != Nsc::All_categories)
+            m_filter->apply();
+        setCurrentItem(top);
+        top->setExpanded(true);
+    }
+    m_notifiesSelection = notifies;
+    notifySelection(top);
+    resizeColumnsNow();
+    emit statusMessage(
+        m_isBuiltOnDemand
+            ? tr("The graph has more than %L1 rows: rows are made when a row is opened.").arg(int(MostRowsAtOnce))
+            : QString());
+}
+
+SoTreeViewItem* SoNodescopeTreeView::createItem(SoNode* node, SoTreeViewItem* parentRow, SoField* sourceField,
+                                                int position)
+{
+    if (!node)
+        return nullptr;
+    const RowBuilder builder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
+    SoTreeViewItem* row = builder.build(*node, sourceField, parentRow);
+    row->setIndex(position);
+    if (!parentRow) {
+        insertTopLevelItem(position < 0 ? topLevelItemCount() : position, row);
+        row->setIndex(indexOfTopLevelItem(row));
+        m_registry.enter(row);
+        return row;
+    }
+    int place = position;
+    if (position < 0) {
+        place = parentRow->childCount();
+        while (place > 0 && !parentRow->childRow(place - 1)->isCounted())
+            --place;
+    }
+    parentRow->insertRow(std::min(place, parentRow->childCount()), row);
+    return row;
+}
+
+void SoNodescopeTreeView::buildChildren(SoTreeViewItem* row)
+{
+    row->deleteChildren(false);
+    const RowBuilder builder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
+    builder.buildChildren(*row);
+    row->setPendingChildren(false);
+    if (m_filter->mask() != Nsc::All_categories)
+        m_filter->applyTo(row);
+}
+
+void SoNodescopeTreeView::makePendingChildren(SoTreeViewItem* row)
+{
+    if (row->hasPendingChildren())
+        buildChildren(row);
+}
+
+void SoNodescopeTreeView::reloadFileRow(SoTreeViewItem* row)
+{
+    row->deleteChildren(true);
+    if (row->node()->isOfType(SoWWWInline::getClassTypeId()) && row->node()->getChildren()->getLength() < 2)
+        static_cast<SoWWWInline*>(row->node())->requestChildrenFromURL();
+    int position = 0;
+    forEachChildRowSource(*row->node(), [&](SoNode& child) { createItem(&child, row, nullptr, position++); });
+}
+
+SoTreeViewItem* SoNodescopeTreeView::rowForPath(const SoPath& path, int firstNode)
+{
+    SoTreeViewItem* row = asRow(topLevelItem(0));
+    if (!row || firstNode >= path.getFullLength() || row->node() != path.getNode(firstNode))
+        return nullptr;
+    for (int i = firstNode + 1; i < path.getFullLength(); ++i) {
+        makePendingChildren(row);
+        const SoNode* node = path.getNode(i);
+        // The row at the child's own place first; rows of fields stand elsewhere.
+        SoTreeViewItem* next = row->childRow(path.getIndex(i));
+        for (int place = 0; (!next || next->node() != node) && place < row->childCount(); ++place)
+            next = row->childRow(place);
+        if (!next || next->node() != node)
+            return row;
+        row = next;
+    }
+    return row;
+}
+
+void SoNodescopeTreeView::revealRow(SoTreeViewItem* row)
+{
+    for (SoTreeViewItem* above = row->parentRow(); above; above = above->parentRow())
+        above->setExpanded(true);
+    setCurrentItem(row);
+    scrollToItem(row);
+}
+
+void SoNodescopeTreeView::setHighlightingEnabled(bool on)
+{
+    m_highlighter->setEnabled(on);
+}
+
+bool SoNodescopeTreeView::mayHighlight(const SoTreeViewItem& row) const
+{
+    return Highlights_automatically && row.isActive() && (!row.inFieldSubtree() || row.isPart());
+}
+
+void SoNodescopeTreeView::highlightRow(SoTreeViewItem* row)
+{
+    m_highlighter->highlight(*row);
+    viewport()->update();
+}
+
+void SoNodescopeTreeView::reselectRow(SoTreeViewItem* row)
+{
+    if (!row || !row->isActive())
+        return;
+    revealRow(row);
+}
+
+void SoNodescopeTreeView::notifySelection(SoTreeViewItem* row)
+{
+    if (m_notifiesSelection)
+        emit rowSelected(row, m_shiftClicked);
+}
+
+void SoNodescopeTreeView::selectChange(QTreeWidgetItem* current, QTreeWidgetItem*)
+{
+    if (!m_notifiesSelection)
+        return;
+    SoTreeViewItem* row = asRow(current);
+    if (row && mayHighlight(*row))
+        highlightRow(row);
+    notifySelection(row);
+}
+
+void SoNodescopeTreeView::selectPickedPath(const SoPath& path)
+{
+    if (m_highlighter->isHighlighting())
+        return;
+    int first = 0;
+    while (first < path.getFullLength() && !path.getNode(first)->isOfType(SoSelection::getClassTypeId()))
+        ++first;
+    SoTreeViewItem* row = rowForPath(path, first < path.getFullLength() ? first + 1 : 0);
+    if (row)
+        revealRow(row);
+    else
+        clearSelection();
+}
+
+void SoNodescopeTreeView::onItemClicked(QTreeWidgetItem* item, int)
+{
+    // A click on the current row marks it again, after something else was marked in the 3D view.
+    SoTreeViewItem* row = asRow(item);
+    if (row && row == currentRow() && mayHighlight(*row))
+        highlightRow(row);
+}
+
+void SoNodescopeTreeView::onCustomContextMenu(const QPoint& place)
+{
+    SoTreeViewItem* row = asRow(itemAt(place));
+    if (!row || row->isDisabled())
+        return;
+    QMenu menu(this);
+    menu.addAction(tr("Expand All"), this, [this, row] { expandBelow(row); });
+    menu.exec(viewport()->mapToGlobal(place));
+}
+
+void SoNodescopeTreeView::resizeAllColumns()
+{
+    // Many rows may open in one turn of the event loop; the columns are measured once after them.
+    if (m_resizePending)
+        return;
+    m_resizePending = true;
+    QTimer::singleShot(0, this, &SoNodescopeTreeView::resizeColumnsNow);
+}
+
+void SoNodescopeTreeView::resizeColumnsNow()
+{
+    m_resizePending = false;
+    for (int column = 0; column < columnCount(); ++column)
+        resizeColumnToContents(column);
+}
+
+void SoNodescopeTreeView::expandBelow(QTreeWidgetItem* item)
+{
+    if (!item) {
+        expandAll();
+        return;
+    }
+    // With a layout to come, opening a row is only a note; without one, each row would lay out all those below.
+    scheduleDelayedItemsLayout();
+    QList<SoTreeViewItem*> rows{asRow(item)};
+    for (int i = 0; i < rows.size() && rows.size() < MostRowsAtOnce; ++i) {
+        makePendingChildren(rows[i]);
+        for (int child = 0; child < rows[i]->childCount(); ++child) {
+            if (rows[i]->childRow(child)->childCount() > 0 || rows[i]->childRow(child)->hasPendingChildren())
+                rows.append(rows[i]->childRow(child));
+        }
+    }
+    for (int i = rows.size() - 1; i >= 0; --i)
+        rows[i]->setExpanded(true);
+}
+
+void SoNodescopeTreeView::reapplyFilter()
+{
+    m_filter->apply();
+}
+
+void SoNodescopeTreeView::setFilter(int filter)
+{
+    m_filter->setMask(filter);
+}
+
+int SoNodescopeTreeView::getFilter() const
+{
+    return m_filter->mask();
+}
+
+void SoNodescopeTreeView::showAllReferences(SoTreeViewItem* row)
+{
+    m_references->show(row);
+    refreshSelection();
+}
+
+void SoNodescopeTreeView::removeAllReferences(SoTreeViewItem* row)
+{
+    m_references->hide(row);
+    refreshSelection();
+}
+
+void SoNodescopeTreeView::refreshSelection()
+{
+    QTreeWidgetItem* current = currentItem();
+    clearSelection();
+    setCurrentItem(current);
+    viewport()->update();
+}
+
+SoTreeViewItem* SoNodescopeTreeView::nextReference()
+{
+    return stepReference(true);
+}
+
+SoTreeViewItem* SoNodescopeTreeView::previousReference()
+{
+    return stepReference(false);
+}
+
+SoTreeViewItem* SoNodescopeTreeView::stepReference(bool forward)
+{
+    SoTreeViewItem* row = currentRow() ? m_references->step(currentRow(), forward) : nullptr;
+    if (row)
+        revealRow(row);
+    return row;
+}
+
+void SoNodescopeTreeView::toggleBookmark()
+{
+    if (SoTreeViewItem* row = currentRow())
+        row->setBookmarked(!row->isBookmarked());
+}
+
+SoTreeViewItem* SoNodescopeTreeView::nextBookmark()
+{
+    return stepBookmark(true);
+}
+
+SoTreeViewItem* SoNodescopeTreeView::previousBookmark()
+{
+    return stepBookmark(false);
+}
+
+SoTreeViewItem* SoNodescopeTreeView::stepBookmark(bool forward)
+{
+    // From the row beside the current one to the end, and once more from the other end.
+    QList<SoTreeViewItem*> marked;
+    int start = -1;
+    for (QTreeWidgetItemIterator each(this); *each; ++each) {
+        if (*each == currentItem())
+            start = marked.size();
+        if (asRow(*each)->isBookmarked())
+            marked.append(asRow(*each));
+    }
+    if (marked.isEmpty())
+        return nullptr;
+    const int count = marked.size();
+    const bool isOnMark = start >= 0 && start < count && marked[start] == currentItem();
+    const int next = forward ? (start < 0 ? 0 : start + (isOnMark ? 1 : 0)) : (start < 0 ? count : start) - 1;
+    SoTreeViewItem* row = marked[(next + count) % count];
+    revealRow(row);
+    return row;
+}
+
+void SoNodescopeTreeView::clearBookmark()
+{
+    for (QTreeWidgetItemIterator each(this); *each; ++each)
+        asRow(*each)->setBookmarked(false);
+}
+
+void SoNodescopeTreeView::initPreferences()
+{
+    m_style.load();
+    setColumnHidden(SoTreeViewItem::NameColumn, !m_style.showsNames());
+    setColumnHidden(SoTreeViewItem::ReferenceCountColumn, !m_style.showsReferenceCounts());
+    viewport()->update();
+}
+
+void SoNodescopeTreeView::setPreferences()
+{
+    m_style.save();
+    initPreferences();
+}
+
+void SoNodescopeTreeView::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Asterisk) {
+        if (currentItem())
+            expandBelow(currentItem());
+        event->accept();
+        return;
+    }
+    QTreeWidget::keyPressEvent(event);
+}
+
+void SoNodescopeTreeView::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F1 && currentRow())
+        QDesktopServices::openUrl(ClassReference::page(RowTexts::typeName(currentRow()->node()->getTypeId())));
+    event->accept();
+}
+
+void SoNodescopeTreeView::mousePressEvent(QMouseEvent* event)
+{
+    m_shiftClicked = itemAt(event->pos()) && event->modifiers() == Qt::ShiftModifier;
+    QTreeWidget::mousePressEvent(event);
+    m_shiftClicked = false;
+}

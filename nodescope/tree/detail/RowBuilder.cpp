@@ -1,0 +1,102 @@
+#include "RowBuilder.h"
+#include "RowSources.h"
+
+#include <nodescope/tree/SoTreeViewItem.h>
+
+#include <vexel/nodekits/SoBaseKit.h>
+
+#include <algorithm>
+#include <unordered_map>
+
+namespace {
+
+SoBaseKit* describingKit(const SoTreeViewItem* parent)
+{
+    if (!parent)
+        return nullptr;
+    SoNode* node = parent->node();
+    return node->isOfType(SoBaseKit::getClassTypeId()) ? static_cast<SoBaseKit*>(node) : parent->kit();
+}
+
+bool standsAmong(const SoNode* node, const SoTreeViewItem* row)
+{
+    for (; row; row = row->parentRow()) {
+        if (row->node() == node)
+            return true;
+    }
+    return false;
+}
+
+bool hasRowsBelow(SoNode& node)
+{
+    bool hasAny = false;
+    forEachRowSource(node, [&hasAny](SoNode&, SoField*) { hasAny = true; });
+    return hasAny;
+}
+
+class RowCounter {
+public:
+    explicit RowCounter(qint64 most) : m_most(most) {}
+
+    qint64 count(SoNode& node)
+    {
+        const auto [place, isNew] = m_counts.try_emplace(&node, 1);
+        if (!isNew)
+            return place->second;
+        qint64 rows = 1;
+        forEachRowSource(node, [&](SoNode& below, SoField*) {
+            if (rows <= m_most)
+                rows += count(below);
+        });
+        rows = std::min(rows, m_most + 1);
+        m_counts[&node] = rows;
+        return rows;
+    }
+
+private:
+    qint64 m_most;
+    // A node that is still being counted stands for one row, as its row below itself will.
+    std::unordered_map<const SoNode*, qint64> m_counts;
+};
+
+} // namespace
+
+bool RowBuilder::makesAtMost(SoNode& root, int most)
+{
+    return RowCounter(most).count(root) <= most;
+}
+
+SoTreeViewItem* RowBuilder::build(SoNode& node, SoField* field, SoTreeViewItem* parent) const
+{
+    auto* row = new SoTreeViewItem(&node, field, parent, describingKit(parent));
+    fill(*row, nullptr, parent);
+    return row;
+}
+
+void RowBuilder::buildChildren(SoTreeViewItem& row) const
+{
+    QList<QTreeWidgetItem*> rows;
+    forEachRowSource(*row.node(), [&](SoNode& node, SoField* field) { rows.append(build(node, field, &row)); });
+    row.appendRows(rows);
+}
+
+// The rows above one that is being built are those it is already put below, and then those of the view, above the place
+// where all of them will be put.
+void RowBuilder::fill(SoTreeViewItem& row, const SoTreeViewItem* above, const SoTreeViewItem* aboveInView) const
+{
+    if (row.referenceCount() >= 2)
+        row.updateReferenceIcon(true);
+    // A graph that contains itself would go on for ever.
+    if (standsAmong(row.node(), above) || standsAmong(row.node(), aboveInView))
+        return;
+    if (m_children == Children::OnDemand) {
+        if (hasRowsBelow(*row.node()))
+            row.setPendingChildren(true);
+        return;
+    }
+    forEachRowSource(*row.node(), [&](SoNode& node, SoField* field) {
+        auto* child = new SoTreeViewItem(&node, field, &row, describingKit(&row));
+        row.insertRow(row.childCount(), child);
+        fill(*child, &row, aboveInView);
+    });
+}

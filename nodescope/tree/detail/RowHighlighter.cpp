@@ -1,0 +1,55 @@
+#include "RowHighlighter.h"
+
+#include <nodescope/tree/SoTreeViewItem.h>
+
+#include <vexel/base/SoPath.h>
+#include <vexel/nodes/SoSelection.h>
+
+RowHighlighter::~RowHighlighter()
+{
+    setSelection(nullptr);
+}
+
+void RowHighlighter::setSelection(SoSelection* selection)
+{
+    if (selection)
+        selection->ref();
+    if (m_selection)
+        m_selection->unref();
+    m_selection = selection;
+}
+
+SoPath* RowHighlighter::pathTo(const SoTreeViewItem& row) const
+{
+    auto* path = new SoPath(m_selection);
+    path->ref();
+    const SoNode* parent = m_selection;
+    for (const SoTreeViewItem* step : row.ancestorPath()) {
+        const SoChildList* children = parent->getChildren();
+        const int index = children && !step->fromField() ? children->find(step->node(), step->storedIndex())
+                          : children                     ? children->find(step->node())
+                                                         : -1;
+        if (index < 0 || !path->append(index)) {
+            path->unref();
+            return nullptr;
+        }
+        parent = step->node();
+    }
+    path->unrefNoDelete();
+    return path;
+}
+
+void RowHighlighter::highlight(const SoTreeViewItem& row)
+{
+    if (!m_selection || !m_isEnabled)
+        return;
+    SoPath* path = pathTo(row);
+    if (!path)
+        return;
+    path->ref();
+    m_isHighlighting = true;
+    m_selection->deselectAll();
+    m_selection->select(path);
+    m_isHighlighting = false;
+    path->unref();
+}

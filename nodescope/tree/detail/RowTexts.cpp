@@ -1,0 +1,37 @@
+#include "RowTexts.h"
+
+#include <nodescope/tree/SoTreeViewItem.h>
+
+#include <vexel/base/SoType.h>
+
+#include <vector>
+
+const QString& RowTexts::typeName(SoType type)
+{
+    static std::vector<QString> known;
+    const std::size_t key = type.getKey();
+    if (key >= known.size())
+        known.resize(key + 1);
+    if (known[key].isNull())
+        known[key] = QString::fromLatin1(type.getName().getString());
+    return known[key];
+}
+
+QString RowTexts::name(const SbName& name)
+{
+    return name.toQString();
+}
+
+QColor RowTexts::color(int column, bool isIgnored)
+{
+    switch (column) {
+    case SoTreeViewItem::NameColumn:
+        return QColor(0, 128, 0, 255);
+    case SoTreeViewItem::ReferenceCountColumn:
+        return Qt::blue;
+    case SoTreeViewItem::TypeColumn:
+        return isIgnored ? Qt::darkGray : Qt::black;
+    default:
+        return Qt::black;
+    }
+}

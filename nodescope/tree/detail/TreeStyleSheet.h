@@ -1,0 +1,6 @@
+#pragma once
+
+class QString;
+
+/** The look of the tree: row height, colours of hovered and selected rows, branch lines. */
+QString treeStyleSheet();
