@@ -1,0 +1,34 @@
+#pragma once
+
+#include <vexel/viewer/SoGuiRenderArea.h>
+
+#include <QObject>
+#include <memory>
+
+class RenderWidget;
+
+/** A widget that shows a scene and passes the user's events to it. */
+class VEXEL_API SoQtRenderArea : public QObject, public virtual SoGuiRenderArea {
+    Q_OBJECT
+public:
+    explicit SoQtRenderArea(QWidget* parent = nullptr, const char* name = nullptr);
+    ~SoQtRenderArea() override;
+
+    QWidget* getWidget() const override;
+    QWidget* getGLWidget() const override;
+    SoSceneManager* getSceneManager() const override { return m_sceneManager.get(); }
+    void setSceneGraph(SoNode* root) override;
+    SoNode* getSceneGraph() const override;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+protected:
+    /** What the area does with an event of the GL widget before the scene is offered it; true takes it away. */
+    virtual bool handleWidgetEvent(QEvent& event);
+    /** Offers an event of the GL widget to the scene. */
+    bool offerToScene(const QEvent& event);
+
+private:
+    std::unique_ptr<SoSceneManager> m_sceneManager;
+    RenderWidget* m_glWidget; ///< its parent may delete it first
+};

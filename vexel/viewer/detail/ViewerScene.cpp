@@ -1,0 +1,142 @@
+#include <vexel/viewer/detail/ViewerScene.h>
+
+#include <vexel/actions/SoGetBoundingBoxAction.h>
+#include <vexel/actions/SoSearchAction.h>
+#include <vexel/base/SoFullPath.h>
+#include <vexel/nodes/SoDirectionalLight.h>
+#include <vexel/nodes/SoDrawStyle.h>
+#include <vexel/nodes/SoOrthographicCamera.h>
+#include <vexel/nodes/SoPerspectiveCamera.h>
+#include <vexel/nodes/SoRotation.h>
+#include <vexel/nodes/SoSeparator.h>
+#include <vexel/nodes/SoTransformSeparator.h>
+#include <vexel/viewer/detail/CameraState.h>
+
+#include <algorithm>
+#include <cmath>
+
+ViewerScene::ViewerScene()
+    : m_root(new SoSeparator), m_lightRotation(new SoRotation), m_headlight(new SoDirectionalLight),
+      m_drawStyle(new SoDrawStyle), m_ownCamera(new SoPerspectiveCamera), m_camera(m_ownCamera)
+{
+    m_root->ref();
+    m_ownCamera->ref();
+    auto* lights = new SoTransformSeparator;
+    m_headlight->direction = SbVec3f(0.25f, -0.35f, -1);
+    lights->addChild(m_lightRotation);
+    lights->addChild(m_headlight);
+    m_root->addChild(lights);
+    m_root->addChild(m_drawStyle);
+    m_drawStyle->style.setIgnored(true);
+    m_root->addChild(m_ownCamera);
+}
+
+ViewerScene::~ViewerScene()
+{
+    setScene(nullptr);
+    m_ownCamera->unref();
+    m_root->unref();
+}
+
+void ViewerScene::setScene(SoNode* scene)
+{
+    if (scene)
+        scene->ref();
+    if (m_scene) {
+        m_root->removeChild(m_scene);
+        m_scene->unref();
+    }
+    m_scene = scene;
+    const int own = m_root->findChild(m_ownCamera);
+    if (own >= 0)
+        m_root->removeChild(own);
+    m_camera = m_ownCamera;
+    if (m_scene) {
+        SoSearchAction search;
+        search.setType(SoCamera::getClassTypeId());
+        search.apply(m_scene);
+        if (search.getPath())
+            m_camera = static_cast<SoCamera*>(static_cast<SoFullPath*>(search.getPath())->getTail());
+    }
+    if (m_camera == m_ownCamera)
+        m_root->addChild(m_ownCamera);
+    if (m_scene)
+        m_root->addChild(m_scene);
+}
+
+void ViewerScene::toggleProjection()
+{
+    if (m_camera != m_ownCamera)
+        return;
+    CameraState state(*m_ownCamera);
+    SoCamera* other = nullptr;
+    if (m_ownCamera->isOfType(SoPerspectiveCamera::getClassTypeId())) {
+        const float angle = static_cast<SoPerspectiveCamera*>(m_ownCamera)->heightAngle.getValue();
+        state.height = 2 * state.focalDistance * std::tan(angle / 2);
+        other = new SoOrthographicCamera;
+    } else {
+        auto* perspective = new SoPerspectiveCamera;
+        const float distance = state.height / 2 / std::tan(perspective->heightAngle.getValue() / 2);
+        SbVec3f direction;
+        state.orientation.multVec(SbVec3f(0, 0, -1), direction);
+        state.position = state.position + direction * (state.focalDistance - distance);
+        state.focalDistance = distance;
+        other = perspective;
+    }
+    state.applyTo(*other);
+    other->ref();
+    m_root->replaceChild(m_ownCamera, other);
+    m_ownCamera->unref();
+    m_ownCamera = m_camera = other;
+}
+
+void ViewerScene::setDrawStyle(int style)
+{
+    m_drawStyle->setOverride(style >= 0);
+    m_drawStyle->style = std::max(style, 0);
+    m_drawStyle->style.setIgnored(style < 0);
+}
+
+void ViewerScene::setHeadlight(bool on)
+{
+    m_headlight->on = on;
+}
+
+bool ViewerScene::hasHeadlight() const
+{
+    return m_headlight->on.getValue();
+}
+
+namespace {
+
+// Values that stay are not set again: the picture that is being drawn must not ask for another one.
+template <class Field, class Value>
+void setIfDifferent(Field& field, const Value& value)
+{
+    if (!(field.getValue() == value))
+        field = value;
+}
+
+} // namespace
+
+void ViewerScene::prepareFrame(const SbViewportRegion& region)
+{
+    setIfDifferent(m_lightRotation->rotation, m_camera->orientation.getValue());
+    if (!m_scene)
+        return;
+    SoGetBoundingBoxAction action(region);
+    action.apply(m_scene);
+    const SbBox3f& box = action.getBoundingBox();
+    if (box.isEmpty())
+        return;
+    SbVec3f direction;
+    m_camera->orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
+    const float middle = direction.dot(box.getCenter() - m_camera->position.getValue());
+    const float radius = std::max(box.getSize().length() / 2, 1e-6f) * 1.01f;
+    const float farthest = std::max(middle + radius, 1e-5f);
+    // Depth is kept well for a ratio of ten thousand between far and near.
+    const bool isPerspective = m_camera->isOfType(SoPerspectiveCamera::getClassTypeId());
+    setIfDifferent(m_camera->farDistance, farthest);
+    setIfDifferent(m_camera->nearDistance,
+                   isPerspective ? std::max(middle - radius, farthest * 1e-4f) : middle - radius);
+}

@@ -1,0 +1,45 @@
+#pragma once
+
+class SbViewportRegion;
+class SoCamera;
+class SoDirectionalLight;
+class SoDrawStyle;
+class SoNode;
+class SoRotation;
+class SoSeparator;
+
+/** What a viewer puts around the scene it shows: a headlight, and a camera when the scene has none. */
+class ViewerScene {
+public:
+    ViewerScene();
+    ViewerScene(const ViewerScene&) = delete;
+    ViewerScene& operator=(const ViewerScene&) = delete;
+    ~ViewerScene();
+
+    /** The graph to be drawn. */
+    SoSeparator* root() const { return m_root; }
+    void setScene(SoNode* scene);
+    SoNode* scene() const { return m_scene; }
+    /** The first camera of the scene, or the viewer's own. */
+    SoCamera* camera() const { return m_camera; }
+    /** Exchanges the viewer's own camera for one of the other kind; a camera of the scene stays. */
+    void toggleProjection();
+
+    void setHeadlight(bool on);
+    bool hasHeadlight() const;
+
+    /** Draws everything filled (-1), as lines or as points, whatever the scene says (SoDrawStyle::Style). */
+    void setDrawStyle(int style);
+
+    /** Sets the near and far distance around the scene, and lets the headlight follow the camera. */
+    void prepareFrame(const SbViewportRegion& region);
+
+private:
+    SoSeparator* m_root;
+    SoRotation* m_lightRotation;
+    SoDirectionalLight* m_headlight;
+    SoDrawStyle* m_drawStyle;
+    SoCamera* m_ownCamera;
+    SoCamera* m_camera;
+    SoNode* m_scene = nullptr;
+};
