@@ -22,7 +22,10 @@ const char* CommandLine::usage()
            "Options:\n"
            "  --screenshot PNG  draw the window once, write its picture to PNG and leave\n"
            "  --version         show the version and leave\n"
-           "  --help            show this text and leave\n";
+           "  --help            show this text and leave\n"
+           "\n"
+           "Exit status: 0 done; 1 the picture cannot be written; 2 a mistake in the options, or FILE cannot be "
+           "read.\n";
 }
 
 CommandLine CommandLine::parse(int argc, const char* const* argv)

@@ -1,37 +1,63 @@
 #include "CommandLine.h"
+#include "UnattendedRun.h"
 
-#include <nodescope/edit/SoCommandManager.h>
-#include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/entry/SoNodescopeImpl.h>
+#include <nodescope/mainframe/SoNodescopeViewer.h>
 
 #include <QApplication>
-#include <QPixmap>
-#include <QTimer>
+#include <QFileInfo>
 #include <cstdio>
 
 namespace {
 
-int openWindow(const CommandLine& line, int argc, char** argv)
+enum ExitStatus { Done = 0, CannotWrite = 1, CannotRead = 2 /* or cannot understand the command line */ };
+
+int complain(const std::string& problem)
 {
+    std::fprintf(stderr, "nodescope: %s\n", problem.c_str());
+    return CannotRead;
+}
+
+bool canRead(const std::string& file)
+{
+    const QFileInfo info(QString::fromLocal8Bit(file.c_str()));
+    return info.isFile() && info.isReadable();
+}
+
+/** Opens the window on the file and stays until the user closes it. */
+ExitStatus runWindow(int& count, char** arguments)
+{
+    SoNodescopeImpl::startStandalone(count, arguments);
+    QApplication::exec();
+    return Done;
+}
+
+ExitStatus runScreenshot(const CommandLine& line, int& count, char** arguments)
+{
+    const UnattendedRun run;
+    SoNodescopeImpl::startStandalone(count, arguments);
+    const bool isRead =
+        line.sceneFile.empty() || !SoNodescopeViewer::getInstance()->sceneFiles().currentFile().isEmpty();
+    const bool isWritten = isRead && UnattendedRun::writeScreenshot(line.screenshot);
+    SoNodescopeImpl::requestStop(false);
+    return !isRead ? CannotRead : isWritten ? Done : CannotWrite;
+}
+
+int openFile(const CommandLine& line, char* program)
+{
+    std::string file = line.sceneFile;
+    if (!file.empty() && !canRead(file))
+        return complain("cannot read the scene file '" + file + "'; check its name and its permissions");
+    // Options are not for the inspector, which takes the last argument for a scene.
+    int count = file.empty() ? 1 : 2;
+    char* arguments[] = {program, file.empty() ? nullptr : file.data(), nullptr};
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-    QApplication application(argc, argv);
-    SoCommandManager manager;
-    SoNodescopeMainFrame frame;
-    frame.setUp(&manager, SoNodescopeMainFrame::Hosting::Standalone);
-    manager.initialize(&frame);
-    frame.restoreSettings();
-    frame.show();
-    if (!line.screenshot.empty()) {
-        QTimer::singleShot(0, &frame, [&] {
-            const QString name = QString::fromLocal8Bit(line.screenshot.c_str());
-            const bool written = frame.grab().save(name);
-            if (!written)
-                std::fprintf(stderr, "nodescope: cannot write the picture '%s'; check folder and file extension\n",
-                             line.screenshot.c_str());
-            QApplication::exit(written ? 0 : 1);
-        });
-    }
-    return QApplication::exec();
+    QApplication application(count, arguments);
+    const ExitStatus status =
+        line.screenshot.empty() ? runWindow(count, arguments) : runScreenshot(line, count, arguments);
+    SoNodescopeImpl::processEvents(); // carries out the stop
+    return status;
 }
 
 } // namespace
@@ -42,15 +68,14 @@ int main(int argc, char** argv)
     switch (line.request) {
     case CommandLine::Request::ShowHelp:
         std::fputs(CommandLine::usage(), stdout);
-        return 0;
+        return Done;
     case CommandLine::Request::ShowVersion:
         std::puts("nodescope " NODESCOPE_VERSION);
-        return 0;
+        return Done;
     case CommandLine::Request::Invalid:
-        std::fprintf(stderr, "nodescope: %s\n", line.problem.c_str());
-        return 2;
+        return complain(line.problem);
     case CommandLine::Request::OpenWindow:
         break;
     }
-    return openWindow(line, argc, argv);
+    return openFile(line, argv[0]);
 }

@@ -4,6 +4,7 @@
 #include "SceneDocument.h"
 #include "SoNodescopeMainFrame.h"
 #include "detail/FileMessages.h"
+#include "detail/NodeKeeper.h"
 #include "detail/ReadErrors.h"
 
 #include <vexel/actions/SoWriteAction.h>
@@ -19,26 +20,6 @@
 namespace {
 
 constexpr char Scene_extension[] = ".vx";
-
-/** Keeps a node alive without deleting one that nobody else holds. */
-class NodeKeeper {
-public:
-    explicit NodeKeeper(SoNode* node) : m_node(node)
-    {
-        if (m_node)
-            m_node->ref();
-    }
-    ~NodeKeeper()
-    {
-        if (m_node)
-            m_node->unref();
-    }
-    NodeKeeper(const NodeKeeper&) = delete;
-    NodeKeeper& operator=(const NodeKeeper&) = delete;
-
-private:
-    SoNode* m_node;
-};
 
 /** Makes the files that a scene refers to be found beside it. */
 void searchBesideFile(SoInput& input)

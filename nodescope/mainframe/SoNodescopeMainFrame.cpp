@@ -1,6 +1,7 @@
 #include "SoNodescopeMainFrame.h"
 #include "RecentFilesMenu.h"
 #include "SceneFileHandler.h"
+#include "detail/InlineFiles.h"
 #include "detail/MainFrameBuilder.h"
 #include "detail/WindowGeometry.h"
 
@@ -18,12 +19,16 @@ constexpr QSize Size_when_not_maximised(1280, 800);
 
 SoNodescopeMainFrame::SoNodescopeMainFrame(QWidget* parent) : QMainWindow(parent) {}
 
-SoNodescopeMainFrame::~SoNodescopeMainFrame() = default;
+SoNodescopeMainFrame::~SoNodescopeMainFrame()
+{
+    InlineFiles::remove();
+}
 
 void SoNodescopeMainFrame::setUp(QObject* commandManager, Hosting hosting)
 {
     m_commandManager = commandManager;
     m_hosting = hosting;
+    InlineFiles::install();
     setWindowTitle(tr("Nodescope"));
     setWindowIcon(QIcon(QStringLiteral(":/Nodescope_icons/Icons/NodescopeIcon.png")));
     setAcceptDrops(true);

@@ -6,7 +6,7 @@
 namespace {
 
 constexpr int Messages_shown_at_once = 8;
-constexpr int Characters_of_a_message = 240;
+constexpr int Characters_of_a_message = 120;
 
 /** So much of the messages as a box on a small screen has room for. */
 QString beginningOf(const QStringList& messages)

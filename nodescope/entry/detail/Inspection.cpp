@@ -1,0 +1,116 @@
+#include "Inspection.h"
+#include "ConfigurationSource.h"
+#include "CriticalErrorDialog.h"
+#include "HostingFacts.h"
+#include "QtLibraryPaths.h"
+
+#include <extension/NscPluginsManager.h>
+#include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/mainframe/SoNodescopeViewer.h>
+#include <nodescope/preferences/SoPreferenceStore.h>
+#include <nodescope/shell/NscServicesImpl.h>
+#include <nodescope/shell/NscShellImpl.h>
+#include <nodescope/tree/NscNodeInfo.h>
+#include <spanora/SpnSymTool.h>
+#include <vexel/base/SoErrorStack.h>
+#include <vexel/base/SoPreferences.h>
+#include <vexel/nodes/SoGradientBackground.h>
+#include <vexel/nodes/SoSeparator.h>
+
+#include <QApplication>
+#include <QLocale>
+
+namespace {
+
+/** In the order of their start. */
+constexpr const char* Optional_modules[] = {"Tessora", "Densora", "FarlinkClient"};
+
+bool ownsApplicationObject = false;
+
+void makeApplication(const HostingFacts& facts)
+{
+    static int ownCount = 1;
+    static char ownName[] = "qAppInstance";
+    static char* ownArguments[] = {ownName, nullptr};
+    setupQtLibraryPaths(SbString());
+    if (facts.argv)
+        new QApplication(*facts.argc, facts.argv);
+    else
+        new QApplication(ownCount, ownArguments);
+}
+
+/** What the tool shows before a scene is opened. */
+SoNode* placeholderScene()
+{
+    auto* root = new SoSeparator;
+    root->addChild(new SoGradientBackground);
+    return root;
+}
+
+} // namespace
+
+void Inspection::prepare(const HostingFacts& facts)
+{
+    ConfigurationSource::registerMinimalConfiguration();
+    NscServicesImpl& services = *NscServicesImpl::getInstance();
+    services.setStandalone(facts.isStandalone);
+    services.setSceneManager(facts.sceneManager);
+    services.setRenderArea(facts.renderArea);
+    ownsApplicationObject = !QCoreApplication::instance();
+    if (ownsApplicationObject)
+        makeApplication(facts);
+    NscShellImpl::getInstance(facts.parent);
+}
+
+void Inspection::initialize(const QStringList& arguments, const SoSceneManager* sceneManager)
+{
+    // A critical error is shown with the calls that led to it.
+    if (!SoPreferences::hasValue("VXL_DEBUG_STACKERROR"))
+        SoPreferences::setValue("VXL_DEBUG_STACKERROR", "1");
+    SoPreferences::setValue("VXL_STACKWALKER_HTML_OUTPUT", "1");
+    QLocale::setDefault(QLocale(QLocale::C, QLocale::AnyCountry)); // numbers have a decimal point everywhere
+    SoErrorStack::setHandlerCallback(criticalErrorHandler);
+    for (const char* module : Optional_modules)
+        SpnSymTool::initModule(module);
+
+    NscServicesImpl& services = *NscServicesImpl::getInstance();
+    SoCommandManager& manager = *services.getCommandManager();
+    SoNodescopeMainFrame& frame = *NscShellImpl::getInstance()->getMainFrame();
+    using Hosting = SoNodescopeMainFrame::Hosting;
+    frame.setUp(&manager, services.isStandalone() ? Hosting::Standalone : Hosting::Attached);
+    SoNodescopeViewer& viewer = *SoNodescopeViewer::getInstance();
+    frame.restoreSettings();
+    manager.initialize(&frame);
+    if (!sceneManager)
+        viewer.setSceneGraph(placeholderScene(), true);
+    if (arguments.size() > 1)
+        frame.openFile(arguments.last());
+    const ConfigurationSource::Source source = ConfigurationSource::resolveConfiguration();
+    NscPluginsManager::getInstance()->read(source.pathOrText, source.isFile);
+}
+
+void Inspection::showMainFrame()
+{
+    NscShellImpl::getInstance()->getMainFrame()->show();
+}
+
+void Inspection::cleanup()
+{
+    NscPluginsManager::releaseInstance(); // extensions go while shell and services still exist
+    NscServicesImpl::deleteInstance();
+    SoNodescopeViewer::deleteInstance();
+    NscShellImpl::deleteInstance();
+    SoPreferenceStore::deleteInstance();
+    NscNodeInfo::clean();
+    SoErrorStack::setHandlerCallback(nullptr);
+    for (auto module = std::rbegin(Optional_modules); module != std::rend(Optional_modules); ++module)
+        SpnSymTool::finishModule(*module);
+    if (ownsApplicationObject)
+        delete QCoreApplication::instance();
+}
+
+bool Inspection::ownsApplication()
+{
+    return ownsApplicationObject;
+}

@@ -1,0 +1,104 @@
+#include "SoNodescopeViewer.h"
+#include "SoNodescopeMainFrame.h"
+#include "detail/NodeKeeper.h"
+#include "detail/PanelDocks.h"
+
+#include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/preferences/SoPreferenceStore.h>
+#include <nodescope/shell/NscServicesImpl.h>
+#include <nodescope/shell/NscShellImpl.h>
+#include <nodescope/tree/SoNodescopeTreeView.h>
+#include <nodescope/tree/SoTreeViewItem.h>
+#include <vexel/nodes/SoSelection.h>
+
+#include <QStatusBar>
+
+namespace {
+
+constexpr int Tree_width = 420;
+
+SoNodescopeViewer* instance = nullptr;
+
+} // namespace
+
+SoNodescopeViewer* SoNodescopeViewer::getInstance()
+{
+    if (!instance)
+        instance = new SoNodescopeViewer(*NscShellImpl::getInstance()->getMainFrame(), *NscServicesImpl::getInstance());
+    return instance;
+}
+
+void SoNodescopeViewer::deleteInstance()
+{
+    delete instance;
+}
+
+SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services)
+    : m_frame(frame), m_services(services), m_sceneFiles(frame, *this), m_selection(new SoSelection),
+      m_treeView(new SoNodescopeTreeView(&frame)),
+      m_highlights(SoPreferenceStore::getInstance()->readHighlightSelectedNode(SoPreferenceStore::TreeViewGroup))
+{
+    m_selection->ref();
+    m_selection->policy.setValue(SoSelection::SINGLE);
+    makePanels();
+    m_treeView->setSceneGraph(m_selection);
+    m_treeView->setHighlightingEnabled(m_highlights);
+    connect(m_treeView, &SoNodescopeTreeView::newSceneGraph, &m_services, &NscServicesImpl::announceSceneGraph);
+    connect(m_treeView, &SoNodescopeTreeView::rowSelected, this, &SoNodescopeViewer::selectNode);
+    connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
+            [bar = m_frame.statusBar()](const QString& text) { bar->showMessage(text); });
+    m_frame.setSceneFiles(&m_sceneFiles);
+}
+
+SoNodescopeViewer::~SoNodescopeViewer()
+{
+    m_frame.setSceneFiles(nullptr);
+    m_treeView->disconnect();
+    m_treeView->reset(nullptr);
+    m_treeView->setSceneGraph(nullptr);
+    m_selection->deselectAll();
+    m_selection->removeAllChildren();
+    m_selection->unref();
+    instance = nullptr;
+}
+
+void SoNodescopeViewer::makePanels()
+{
+    if (m_services.isStandalone()) {
+        PanelDocks::addSceneView(m_frame);
+        QDockWidget* const dock = PanelDocks::add(m_frame, PanelDocks::Panel::TreeView, m_treeView);
+        m_frame.resizeDocks({dock}, {Tree_width}, Qt::Horizontal);
+    } else {
+        m_frame.setCentralWidget(m_treeView);
+    }
+}
+
+void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
+{
+    if (resetCommands)
+        m_services.getCommandManager()->clearUndoCommand();
+    if (m_highlights)
+        m_selection->deselectAll();
+    const NodeKeeper keeper(root);
+    const NodeKeeper previousKeeper(m_scene); // its rows go only with those of the new scene
+    m_selection->removeAllChildren();
+    m_scene = root;
+    if (!root) {
+        m_treeView->reset(nullptr);
+        m_services.announceSceneGraph(nullptr);
+        return;
+    }
+    emit m_treeView->newSceneGraph(root);
+    m_selection->addChild(root);
+    m_selection->deselectAll();
+}
+
+bool SoNodescopeViewer::isModified() const
+{
+    return m_services.getCommandManager()->isModified();
+}
+
+void SoNodescopeViewer::selectNode(SoTreeViewItem* row)
+{
+    m_services.setSelectedNode(row ? row->node() : nullptr);
+}

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <nodescope/NodescopeApi.h>
+#include <nodescope/mainframe/SceneDocument.h>
+#include <nodescope/mainframe/SceneFiles.h>
+
+#include <QObject>
+
+class NscServicesImpl;
+class SoNodescopeMainFrame;
+class SoNodescopeTreeView;
+class SoSelection;
+class SoTreeViewItem;
+
+/**
+ * The displayed scene: the selection node that stands above it, the tree view and the docks that show it, and its
+ * files. There is one while an inspection runs.
+ */
+class NODESCOPE_API SoNodescopeViewer : public QObject, public SceneDocument {
+    Q_OBJECT
+public:
+    /** The viewer, created on first use in the shell's main window. */
+    static SoNodescopeViewer* getInstance();
+    /** Deletes the viewer, if there is one; the scene goes with it unless somebody else holds it. */
+    static void deleteInstance();
+    ~SoNodescopeViewer() override;
+
+    SoNodescopeMainFrame& mainFrame() const { return m_frame; }
+    SoNodescopeTreeView* treeView() const { return m_treeView; }
+    /** Root of what is displayed: the scene is its only child. */
+    SoSelection* selection() const { return m_selection; }
+    SceneFiles& sceneFiles() { return m_sceneFiles; }
+
+    SoNode* scene() const override { return m_scene; }
+    void setSceneGraph(SoNode* root, bool resetCommands) override;
+    bool isModified() const override;
+
+private:
+    SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services);
+
+    void makePanels();
+    void selectNode(SoTreeViewItem* row);
+
+    SoNodescopeMainFrame& m_frame;
+    NscServicesImpl& m_services;
+    SceneFiles m_sceneFiles;
+    SoSelection* m_selection;
+    SoNodescopeTreeView* m_treeView;
+    SoNode* m_scene = nullptr;
+    bool m_highlights;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QDockWidget>
+
+class SoNodescopeMainFrame;
+
+/** The docks of the main window. */
+namespace PanelDocks {
+
+enum class Panel { TreeView, NodeOverview, FieldWatch };
+
+/** Puts a panel's dock into the main window, with an entry in its view menu. */
+QDockWidget* add(SoNodescopeMainFrame& frame, Panel panel, QWidget* content);
+/** Makes the dock of the 3D view the central widget. */
+QDockWidget* addSceneView(SoNodescopeMainFrame& frame);
+
+} // namespace PanelDocks

@@ -1,0 +1,74 @@
+#include "NscServicesImpl.h"
+
+#include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/mainframe/SoNodescopeViewer.h>
+
+namespace {
+
+NscServicesImpl* instance = nullptr;
+
+} // namespace
+
+NscServicesImpl* NscServicesImpl::getInstance()
+{
+    if (!instance)
+        instance = new NscServicesImpl;
+    return instance;
+}
+
+void NscServicesImpl::deleteInstance()
+{
+    delete instance;
+}
+
+NscServicesImpl::NscServicesImpl() : m_commandManager(std::make_unique<SoCommandManager>()) {}
+
+NscServicesImpl::~NscServicesImpl()
+{
+    instance = nullptr;
+}
+
+void NscServicesImpl::announceSceneGraph(SoNode* root)
+{
+    m_sceneGraph = root;
+    if (m_selectedField)
+        setSelectedField(nullptr); // it belongs to the scene that went
+    emit sceneGraphChanged(root);
+}
+
+void NscServicesImpl::pushCommand(NscCommand* command)
+{
+    m_commandManager->addCommand(command);
+}
+
+SoSelection* NscServicesImpl::getSelection() const
+{
+    return SoNodescopeViewer::getInstance()->selection();
+}
+
+void NscServicesImpl::redo()
+{
+    m_commandManager->redo();
+}
+
+void NscServicesImpl::setSceneGraph(SoNode* root)
+{
+    SoNodescopeViewer::getInstance()->setSceneGraph(root, true); // which announces it
+}
+
+void NscServicesImpl::setSelectedField(SoField* field)
+{
+    m_selectedField = field;
+    emit selectedFieldChanged(field);
+}
+
+void NscServicesImpl::setSelectedNode(SoFieldContainer* node)
+{
+    m_selectedNode = node;
+    emit selectedNodeChanged(node);
+}
+
+void NscServicesImpl::undo()
+{
+    m_commandManager->undo();
+}

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <extension/NscServices.h>
+#include <nodescope/NodescopeApi.h>
+
+#include <memory>
+
+class SoCommandManager;
+
+/** Holds the state of the inspection, and the undo history through which it changes. */
+class NODESCOPE_API NscServicesImpl : public NscServices {
+    Q_OBJECT
+public:
+    /** The services, created on first use. */
+    static NscServicesImpl* getInstance();
+    /** Deletes the services and with them the undo history, if there are any. */
+    static void deleteInstance();
+    ~NscServicesImpl() override;
+
+    SoCommandManager* getCommandManager() const { return m_commandManager.get(); }
+
+    /** What is known of the host; to be set before the main window is made. */
+    ///@{
+    void setStandalone(bool isStandalone) { m_isStandalone = isStandalone; }
+    void setRenderArea(SoGuiRenderArea* renderArea) { m_renderArea = renderArea; }
+    void setSceneManager(SoSceneManager* sceneManager) { m_sceneManager = sceneManager; }
+    ///@}
+
+    /** The viewer shows another scene: keeps and announces it. */
+    void announceSceneGraph(SoNode* root);
+
+    void pushCommand(NscCommand* command) override;
+    SoSelection* getSelection() const override;
+    SoField* getSelectedField() const override { return m_selectedField; }
+    SoFieldContainer* getSelectedNode() const override { return m_selectedNode; }
+    void redo() override;
+    void setSceneGraph(SoNode* root) override;
+    void setSelectedField(SoField* field) override;
+    void setSelectedNode(SoFieldContainer* node) override;
+    void undo() override;
+    SoSceneManager* getSceneManager() const override { return m_sceneManager; }
+    bool isStandalone() const override { return m_isStandalone; }
+    SoGuiRenderArea* getRenderArea() const override { return m_renderArea; }
+
+private:
+    NscServicesImpl();
+
+    std::unique_ptr<SoCommandManager> m_commandManager;
+    SoField* m_selectedField = nullptr;
+    SoFieldContainer* m_selectedNode = nullptr;
+    SoNode* m_sceneGraph = nullptr;
+    SoGuiRenderArea* m_renderArea = nullptr;
+    SoSceneManager* m_sceneManager = nullptr;
+    bool m_isStandalone = false;
+};

@@ -1,0 +1,25 @@
+#include "ProgramRun.h"
+
+#include <QProcess>
+
+namespace {
+
+constexpr int Deadline = 120000; // milliseconds; nothing is waited for that long unless it hangs
+
+} // namespace
+
+ProgramRun runProgram(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // The plug-ins of an installed tree are no subject here, and their messages would stand among those compared.
+    environment.insert("VXL_NODESCOPE_CONFIGURATION_FILE", QStringLiteral(SOURCE_OF_CONFIGURATION));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PROGRAM_FOLDER "/") + program, arguments);
+    const bool hasEnded = process.waitForFinished(Deadline);
+    if (!hasEnded)
+        process.kill();
+    const bool isGood = hasEnded && process.exitStatus() == QProcess::NormalExit;
+    return {isGood ? process.exitCode() : -1, QString::fromUtf8(process.readAllStandardOutput()),
+            QString::fromUtf8(process.readAllStandardError())};
+}
