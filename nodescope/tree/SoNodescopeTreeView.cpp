@@ -40,6 +40,8 @@ SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
     setColumnCount(SoTreeViewItem::ColumnCount);
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(20);
+    // Columns fit what is seen; measuring a thousand rows beyond that would hold up each opening of a row.
+    header()->setResizeContentsPrecision(0);
     setHeaderLabels({tr("Type"), tr("Name"), tr("Ref. Count"), QString(), QString()});
     setColumnWidth(SoTreeViewItem::ReferenceIconColumn, 44);
     setColumnWidth(SoTreeViewItem::TypeColumn, 200);

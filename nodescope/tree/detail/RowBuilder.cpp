@@ -38,22 +38,32 @@ class RowCounter {
 public:
     explicit RowCounter(qint64 most) : m_most(most) {}
 
+    qint64 countAll(SoNode& root)
+    {
+        m_counts.emplace(&root, 1);
+        return m_counts[&root] = countBelow(root);
+    }
+
+private:
     qint64 count(SoNode& node)
     {
+        // A node that only one holds is come to once, and needs no note.
+        if (node.getAuditors().size() < 2)
+            return countBelow(node);
         const auto [place, isNew] = m_counts.try_emplace(&node, 1);
-        if (!isNew)
-            return place->second;
+        return isNew ? m_counts[&node] = countBelow(node) : place->second;
+    }
+
+    qint64 countBelow(SoNode& node)
+    {
         qint64 rows = 1;
         forEachRowSource(node, [&](SoNode& below, SoField*) {
             if (rows <= m_most)
                 rows += count(below);
         });
-        rows = std::min(rows, m_most + 1);
-        m_counts[&node] = rows;
-        return rows;
+        return std::min(rows, m_most + 1);
     }
 
-private:
     qint64 m_most;
     // A node that is still being counted stands for one row, as its row below itself will.
     std::unordered_map<const SoNode*, qint64> m_counts;
@@ -63,7 +73,7 @@ private:
 
 bool RowBuilder::makesAtMost(SoNode& root, int most)
 {
-    return RowCounter(most).count(root) <= most;
+    return RowCounter(most).countAll(root) <= most;
 }
 
 SoTreeViewItem* RowBuilder::build(SoNode& node, SoField* field, SoTreeViewItem* parent) const

@@ -1,0 +1,200 @@
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <functional>
+
+#include <QApplication>
+#include <QTreeWidget>
+
+#include <nodescope/tree/SoNodescopeTreeView.h>
+#include <nodescope/tree/SoTreeViewItem.h>
+
+#include <vexel/io/SoDB.h>
+#include <vexel/nodes/SoCube.h>
+#include <vexel/nodes/SoSeparator.h>
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double seconds(const std::function<void()>& work)
+{
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/** A separator with that many nodes below it: all children of one, or each group with eight children. */
+SoSeparator* makeGraph(int numNodes, bool isFlat)
+{
+    auto* root = new SoSeparator;
+    root->ref();
+    root->enableNotify(false);
+    std::vector<SoGroup*> groups{root};
+    std::size_t parent = 0;
+    for (int made = 1; made < numNodes; ++made) {
+        while (!isFlat && groups[parent]->getNumChildren() == 8)
+            ++parent;
+        const bool isGroup = !isFlat && groups.size() * 8 < std::size_t(numNodes);
+        SoNode* node = isGroup ? static_cast<SoNode*>(new SoGroup) : new SoCube;
+        groups[isFlat ? 0 : parent]->addChild(node);
+        if (isGroup)
+            groups.push_back(static_cast<SoGroup*>(node));
+    }
+    root->enableNotify(true);
+    return root;
+}
+
+/** The least that a row can be. */
+class BareItem : public QTreeWidgetItem {
+public:
+    explicit BareItem(SoNode* node) : m_node(node) {}
+    QVariant data(int column, int role) const override
+    {
+        if (role == Qt::DisplayRole && column == 0)
+            return QString::fromLatin1(m_node->getTypeId().getName().getString());
+        return QTreeWidgetItem::data(column, role);
+    }
+
+private:
+    SoNode* m_node;
+};
+
+BareItem* makeBareRow(SoNode* node)
+{
+    auto* item = new BareItem(node);
+    if (const SoChildList* children = node->getChildren()) {
+        for (int i = 0; i < children->getLength(); ++i)
+            item->addChild(makeBareRow((*children)[i]));
+    }
+    return item;
+}
+
+void buildBareRows(QTreeWidget& view, SoNode* root)
+{
+    view.clear();
+    view.addTopLevelItem(makeBareRow(root));
+}
+
+/** Times ours and the baseline in turns, several times, and keeps the best of each. */
+void compare(benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& baseline,
+             int numRows)
+{
+    constexpr int Rounds = 3;
+    double best = 1e9;
+    double bestBaseline = 1e9;
+    for (auto _ : state) {
+        for (int round = 0; round < Rounds; ++round) {
+            bestBaseline = std::min(bestBaseline, seconds(baseline));
+            best = std::min(best, seconds(ours));
+        }
+        state.SetIterationTime(best);
+    }
+    state.counters["ratio"] = best / bestBaseline;
+    state.counters["ns_per_row"] = best / numRows * 1e9;
+    state.counters["baseline_ns_per_row"] = bestBaseline / numRows * 1e9;
+}
+
+void BuildRows(benchmark::State& state)
+{
+    SoDB::init();
+    const int numRows = int(state.range(0));
+    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoNodescopeTreeView view;
+    QTreeWidget bare;
+    bare.setColumnCount(5);
+    // Clearing belongs to neither: it is done before the clock starts.
+    double best = 1e9;
+    double bestBaseline = 1e9;
+    for (auto _ : state) {
+        for (int round = 0; round < 3; ++round) {
+            bare.clear();
+            bestBaseline = std::min(bestBaseline, seconds([&] { bare.addTopLevelItem(makeBareRow(root)); }));
+            bare.clear();
+            view.reset(nullptr);
+            best = std::min(best, seconds([&] { view.reset(root); }));
+        }
+        state.SetIterationTime(best);
+    }
+    state.counters["ratio"] = best / bestBaseline;
+    state.counters["ns_per_row"] = best / numRows * 1e9;
+    state.counters["baseline_ns_per_row"] = bestBaseline / numRows * 1e9;
+    view.reset(nullptr);
+    root->unref();
+}
+
+void ExpandAll(benchmark::State& state)
+{
+    SoDB::init();
+    const int numRows = int(state.range(0));
+    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoNodescopeTreeView view;
+    view.reset(root);
+    QTreeWidget bare;
+    buildBareRows(bare, root);
+    compare(
+        state,
+        [&] {
+            view.collapseAll();
+            view.expandBelow(view.topLevelItem(0));
+        },
+        [&] {
+            bare.collapseAll();
+            bare.expandAll();
+        },
+        numRows);
+    view.reset(nullptr);
+    root->unref();
+}
+
+/** Hiding half of the rows and showing them again, against one walk with a virtual call for each row. */
+void ChangeFilter(benchmark::State& state)
+{
+    SoDB::init();
+    const int numRows = int(state.range(0));
+    SoSeparator* root = makeGraph(numRows, false);
+    SoNodescopeTreeView view;
+    view.reset(root);
+    std::int64_t seen = 0;
+    const std::function<void(SoTreeViewItem*)> walk = [&](SoTreeViewItem* row) {
+        seen += row->node()->getTypeId().getKey();
+        for (int i = 0; i < row->childCount(); ++i)
+            walk(row->childRow(i));
+    };
+    compare(
+        state,
+        [&] {
+            view.setFilter(Nsc::All_categories & ~Nsc::Camera);
+            view.setFilter(Nsc::All_categories);
+        },
+        [&] { walk(static_cast<SoTreeViewItem*>(view.topLevelItem(0))); }, numRows);
+    benchmark::DoNotOptimize(seen);
+    state.counters["hide_groups_s"] = seconds([&] { view.setFilter(Nsc::All_categories & ~Nsc::Group); });
+    state.counters["show_groups_s"] = seconds([&] { view.setFilter(Nsc::All_categories); });
+    view.reset(nullptr);
+    root->unref();
+}
+
+BENCHMARK(BuildRows)
+    ->ArgsProduct({{10000, 100000, 1000000}, {0, 1}})
+    ->ArgNames({"rows", "flat"})
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(ExpandAll)
+    ->ArgsProduct({{1000000}, {0, 1}})
+    ->ArgNames({"rows", "flat"})
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(ChangeFilter)->Arg(1000000)->ArgName("rows")->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
