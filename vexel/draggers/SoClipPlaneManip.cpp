@@ -1,7 +1,6 @@
 #include <vexel/draggers/SoClipPlaneManip.h>
 
 #include <vexel/actions/SoAction.h>
-#include <vexel/base/SoFullPath.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/draggers/SoDragger.h>
 #include <vexel/draggers/detail/ManipChild.h>

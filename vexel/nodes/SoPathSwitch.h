@@ -7,7 +7,8 @@
 class VEXEL_API SoPathSwitch : public SoGroup {
     SO_NODE(SoPathSwitch, SoGroup)
 public:
-    /** The end of the way that leads to this node, by choice without the node itself; NULL fits no way. */
+    /** The end of the way that leads to this node, by choice without the node itself; NULL fits no way. The
+     * path holds its nodes; one that holds this switch keeps it alive until the field is emptied. */
     SoSFPath path{this, "path"};
 
     void doAction(SoAction& action) override;

@@ -9,8 +9,8 @@
 class SoPath;
 
 /**
- * A separator that keeps a list of selected paths below it. The paths in the list begin at the selection node. What is
- * done on a pick, the policy says.
+ * A separator that keeps a list of selected paths below it. The paths in the list begin at the selection node, and hold
+ * it: it lives on until all are deselected. What is done on a pick, the policy says.
  */
 class VEXEL_API SoSelection : public SoSeparator {
     SO_NODE(SoSelection, SoSeparator)

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include <vexel/base/SoFullPath.h>
+#include <vexel/base/SoPath.h>
 #include <vexel/draggers/SoTransformManip.h>
 #include <vexel/io/SoDB.h>
 #include <vexel/nodekits/SoShapeKit.h>
@@ -83,7 +83,7 @@ TEST_F(Manips, TakesThePlaceOfAPart)
     auto* manip = new SoTransformManip;
     ASSERT_TRUE(manip->replaceNode(path));
     EXPECT_EQ(kit->transform.getValue(), manip);
-    EXPECT_EQ(static_cast<SoFullPath*>(path)->getTail(), manip);
+    EXPECT_EQ(path->getNode(path->getFullLength() - 1), manip);
     path->unref();
     kit->unref();
 }

@@ -159,6 +159,8 @@ TEST_F(Groups, PathSwitchOpensForItsWayOnly)
     gate->path = path;
     count.apply(root);
     EXPECT_EQ(count.numShapes, 1);
+    // The path holds the graph that holds the path.
+    gate->path = nullptr;
     root->unref();
 }
 

@@ -31,7 +31,11 @@ protected:
                                      &log);
         selection->addChangeCallback(changed, &log);
     }
-    void TearDown() override { root->unref(); }
+    void TearDown() override
+    {
+        selection->deselectAll();
+        root->unref();
+    }
 
     static void changed(void* data, SoSelection*) { static_cast<std::string*>(data)->append("c"); }
 

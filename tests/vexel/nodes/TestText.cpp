@@ -9,20 +9,31 @@ namespace {
 /** Gives the tests of texts the application object that fonts need, without any display. */
 class Texts : public ShapeTest {
 protected:
-    void SetUp() override
+    static void SetUpTestSuite()
     {
+        ShapeTest::SetUpTestSuite();
         qputenv("QT_QPA_PLATFORM", "offscreen");
         static int argc = 1;
         static char name[] = "test";
         static char* argv[] = {name, nullptr};
-        application = std::make_unique<QGuiApplication>(argc, argv);
+        // Kept to the end of the process: the platform plug-in does not give back its screen.
+        static auto* application = new QGuiApplication(argc, argv);
+        ASSERT_EQ(application, QCoreApplication::instance());
     }
-    void TearDown() override { application.reset(); }
-
-    std::unique_ptr<QGuiApplication> application;
 };
 
+class TextsBeforeTheApplication : public ShapeTest {};
+
 } // namespace
+
+TEST_F(TextsBeforeTheApplication, AreLeftOutWithAMessage)
+{
+    ASSERT_EQ(QCoreApplication::instance(), nullptr);
+    SoDebugError::setHandlerCallback([](const SoError*, void*) {}, nullptr);
+    build("Text2 { string \"H\" } Text3 { string \"H\" } AsciiText { string \"H\" }");
+    EXPECT_TRUE(geometry().isEmpty());
+    SoDebugError::setHandlerCallback(nullptr, nullptr);
+}
 
 TEST_F(Texts, FlatTextHasTheSizeOfItsFontAndFacesFront)
 {
@@ -91,12 +102,4 @@ TEST_F(Texts, TextOnTheScreenKeepsItsSizeInPixels)
     EXPECT_GT(near, 0.5f);
     EXPECT_LT(near, 1);
     EXPECT_NEAR(far, 10 * near, 0.01f);
-}
-
-TEST_F(ShapeTest, TextsWithoutAnApplicationAreLeftOutWithAMessage)
-{
-    SoDebugError::setHandlerCallback([](const SoError*, void*) {}, nullptr);
-    build("Text2 { string \"H\" } Text3 { string \"H\" } AsciiText { string \"H\" }");
-    EXPECT_TRUE(geometry().isEmpty());
-    SoDebugError::setHandlerCallback(nullptr, nullptr);
 }

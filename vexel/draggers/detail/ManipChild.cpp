@@ -2,7 +2,6 @@
 
 #include <vexel/base/SbName.h>
 #include <vexel/base/SbString.h>
-#include <vexel/base/SoFullPath.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoType.h>
 #include <vexel/draggers/SoDragger.h>
@@ -33,10 +32,10 @@ void copyCommonFields(const SoNode& from, SoNode& to)
 }
 
 // The kit nearest to the end of the path that has the node as a part.
-SoBaseKit* kitOf(const SoFullPath& path, SbString& part)
+SoBaseKit* kitOf(const SoPath& path, SbString& part)
 {
-    const SoNode* tail = path.getTail();
-    for (int i = path.getLength() - 2; i >= 0; --i) {
+    const SoNode* tail = path.getNode(path.getFullLength() - 1);
+    for (int i = path.getFullLength() - 2; i >= 0; --i) {
         if (!path.getNode(i)->isOfType(SoBaseKit::getClassTypeId()))
             continue;
         auto* kit = static_cast<SoBaseKit*>(path.getNode(i));
@@ -61,12 +60,11 @@ void setManipDragger(SoChildList& children, SoDragger* dragger)
 
 bool replaceTail(SoPath* path, SoType expected, SoNode* node)
 {
-    auto* full = static_cast<SoFullPath*>(path);
-    const int length = full ? full->getLength() : 0;
-    SoNode* old = length > 1 ? full->getTail() : nullptr;
+    const int length = path ? path->getFullLength() : 0;
+    SoNode* old = length > 1 ? path->getNode(length - 1) : nullptr;
     SbString part;
-    SoBaseKit* kit = old ? kitOf(*full, part) : nullptr;
-    const bool isChild = old && full->getNodeFromTail(1)->isOfType(SoGroup::getClassTypeId());
+    SoBaseKit* kit = old ? kitOf(*path, part) : nullptr;
+    const bool isChild = old && path->getNode(length - 2)->isOfType(SoGroup::getClassTypeId());
     // Both are held: the old one is read when it is no part of the graph any more, and the new one may not fit.
     node->ref();
     bool good = old && old != node && old->isOfType(expected) && (kit || isChild);
@@ -76,10 +74,10 @@ bool replaceTail(SoPath* path, SoType expected, SoNode* node)
         if (kit)
             good = kit->setPart(SbName(part), node);
         else
-            static_cast<SoGroup*>(full->getNodeFromTail(1))->replaceChild(full->getIndexFromTail(0), node);
+            static_cast<SoGroup*>(path->getNode(length - 2))->replaceChild(path->getIndex(length - 1), node);
         if (good) {
-            full->truncate(length - 1);
-            full->append(node);
+            path->truncate(length - 1);
+            path->append(node);
         }
         old->unref();
     }
