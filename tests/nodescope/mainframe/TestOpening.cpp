@@ -1,5 +1,6 @@
 #include "SceneFilesFixture.h"
 
+#include <vexel/nodes/SoChildList.h>
 #include <vexel/nodes/SoGroup.h>
 #include <vexel/nodes/SoSeparator.h>
 
@@ -58,7 +59,8 @@ TEST_F(SceneFilesTest, WhatIsGoodOfADamagedSceneIsShown)
         EXPECT_EQ(box.detailedText(), "");
         EXPECT_EQ(box.textFormat(), Qt::PlainText);
     });
-    m_sceneFiles.openFile(write("a.vx", "#Vexel V2.1 ascii\nSeparator {\n Cube { }\n Translation { translation tall }\n}\n"));
+    m_sceneFiles.openFile(
+        write("a.vx", "#Vexel V2.1 ascii\nSeparator {\n Cube { }\n Translation { translation tall }\n}\n"));
     ASSERT_TRUE(scene());
     EXPECT_EQ(m_sceneFiles.currentFile(), path("a.vx"));
 }
@@ -83,8 +85,10 @@ TEST_F(SceneFilesTest, AHundredLongMessagesLeaveTheBoxUsable)
 TEST_F(SceneFilesTest, FilesBesideTheSceneAreFound)
 {
     write("inner.vx", "#Vexel V2.1 ascii\nSeparator { Cube { } }\n");
-    m_sceneFiles.openFile(write("outer.vx", "#Vexel V2.1 ascii\nFile { name \"inner.vx\" }\n"));
-    EXPECT_TRUE(scene());
+    m_sceneFiles.openFile(write("outer.vx", "#Vexel V2.1 ascii\nSeparator { File { name \"inner.vx\" } }\n"));
+    ASSERT_TRUE(scene());
+    const SoNode* file = static_cast<SoGroup*>(scene())->getChild(0);
+    EXPECT_EQ(file->getChildren()->getLength(), 1);
 }
 
 TEST_F(SceneFilesTest, ANewSceneIsAnEmptySeparator)
