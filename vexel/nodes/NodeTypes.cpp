@@ -78,6 +78,7 @@
 #include <vexel/nodes/SoShapeHints.h>
 #include <vexel/nodes/SoSphere.h>
 #include <vexel/nodes/SoSpotLight.h>
+#include <vexel/nodes/SoSurroundScale.h>
 #include <vexel/nodes/SoSwitch.h>
 #include <vexel/nodes/SoText2.h>
 #include <vexel/nodes/SoText3.h>
@@ -133,7 +134,7 @@ void registerNodeTypes()
                 SoTextureCoordinateEnvironment, SoTextureUnit, SoTexture2, SoTexture3, SoTexture2Transform,
                 SoTextureMatrixTransform, SoBumpMap>();
     registerAll<SoTransformation, SoTransform, SoMatrixTransform, SoRotationXYZ, SoRotation, SoTranslation, SoScale,
-                SoUnits, SoResetTransform, SoAntiSquish>();
+                SoUnits, SoResetTransform, SoAntiSquish, SoSurroundScale>();
     registerAll<SoCamera, SoPerspectiveCamera, SoOrthographicCamera, SoLight, SoDirectionalLight, SoPointLight,
                 SoSpotLight>();
     registerAll<SoShape, SoCube, SoSphere, SoCylinder, SoCone, SoVertexShape, SoNonIndexedShape, SoIndexedShape,
