@@ -1,8 +1,11 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
+#include "ReferenceActions.h"
 
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/tree/SoNodescopeTreeView.h>
+#include <nodescope/tree/SoTreeViewItem.h>
 
 #include <QAction>
 #include <QFileDialog>
@@ -18,6 +21,14 @@ void SoCommandManager::initialize(SoNodescopeMainFrame* frame)
     connect(m_history, &CommandHistory::redoAvailable, m_frame->action(ActionId::Redo), &QAction::setEnabled);
     for (ActionId id : {ActionId::Undo, ActionId::Redo, ActionId::Reload})
         m_frame->action(id)->setEnabled(false);
+}
+
+void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
+{
+    m_referenceActions.reset();
+    m_treeView = treeView;
+    if (m_treeView && m_frame)
+        m_referenceActions = std::make_unique<ReferenceActions>(*m_frame, *m_treeView);
 }
 
 bool SoCommandManager::isModified() const
@@ -93,4 +104,74 @@ bool SoCommandManager::addCommand(NscCommand* command)
 void SoCommandManager::clearUndoCommand()
 {
     m_history->clear();
+}
+
+void SoCommandManager::saveSubSceneGraph(SoTreeViewItem* item)
+{
+    if (!item && m_treeView)
+        item = m_treeView->currentRow();
+    if (item)
+        m_frame->sceneFiles()->saveAs(item->node());
+}
+
+void SoCommandManager::expandAll(QTreeWidgetItem* startItem)
+{
+    if (!startItem && m_treeView)
+        startItem = m_treeView->currentRow();
+    if (startItem)
+        m_treeView->expandBelow(startItem);
+}
+
+void SoCommandManager::showAllReferences(SoTreeViewItem* item)
+{
+    if (m_treeView)
+        m_treeView->showAllReferences(item);
+}
+
+void SoCommandManager::removeAllReferences(SoTreeViewItem* item)
+{
+    if (m_treeView)
+        m_treeView->removeAllReferences(item);
+}
+
+void SoCommandManager::nextReference()
+{
+    if (m_treeView)
+        m_treeView->nextReference();
+}
+
+void SoCommandManager::previousReference()
+{
+    if (m_treeView)
+        m_treeView->previousReference();
+}
+
+void SoCommandManager::toggleBookmark()
+{
+    if (m_treeView)
+        m_treeView->toggleBookmark();
+}
+
+void SoCommandManager::nextBookmark()
+{
+    if (m_treeView)
+        m_treeView->nextBookmark();
+}
+
+void SoCommandManager::previousBookmark()
+{
+    if (m_treeView)
+        m_treeView->previousBookmark();
+}
+
+void SoCommandManager::clearBookmark()
+{
+    if (m_treeView)
+        m_treeView->clearBookmark();
+}
+
+void SoCommandManager::setFilter(int filter)
+{
+    if (m_treeView)
+        m_treeView->setFilter(filter);
 }

@@ -3,10 +3,17 @@
 #include <nodescope/NodescopeApi.h>
 
 #include <QObject>
+#include <QPointer>
+
+#include <memory>
 
 class CommandHistory;
 class NscCommand;
+class QTreeWidgetItem;
+class ReferenceActions;
 class SoNodescopeMainFrame;
+class SoNodescopeTreeView;
+class SoTreeViewItem;
 
 /** The hub of what the user does to the scene: the actions of the main frame end here, and every change passes the
  * history here. */
@@ -18,6 +25,9 @@ public:
 
     /** Ties the history to the frame's undo and redo actions. To be called once, after the frame is set up. */
     void initialize(SoNodescopeMainFrame* frame);
+
+    /** The tree that the actions on rows work on; null for none. Not owned. */
+    void setTreeView(SoNodescopeTreeView* treeView);
 
     /** Whether the scene was changed through a command since the history was last cleared. */
     bool isModified() const;
@@ -38,7 +48,26 @@ public slots:
     bool addCommand(NscCommand* command);
     void clearUndoCommand();
 
+    // Slots on a row take the tree's current one when none is given, and do nothing when there is none.
+
+    /** Writes the graph below a row to a file that the user names. */
+    void saveSubSceneGraph(SoTreeViewItem* item = nullptr);
+    void expandAll(QTreeWidgetItem* startItem = nullptr);
+    /** Without a row, those of all shared nodes. */
+    void showAllReferences(SoTreeViewItem* item = nullptr);
+    void removeAllReferences(SoTreeViewItem* item = nullptr);
+    void nextReference();
+    void previousReference();
+    void toggleBookmark();
+    void nextBookmark();
+    void previousBookmark();
+    void clearBookmark();
+    /** Shows the rows whose category is in the mask. */
+    void setFilter(int filter);
+
 private:
     SoNodescopeMainFrame* m_frame = nullptr;
+    QPointer<SoNodescopeTreeView> m_treeView;
+    std::unique_ptr<ReferenceActions> m_referenceActions;
     CommandHistory* m_history;
 };

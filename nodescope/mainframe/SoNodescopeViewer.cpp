@@ -48,6 +48,7 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
             [bar = m_frame.statusBar()](const QString& text) { bar->showMessage(text); });
     m_frame.setSceneFiles(&m_sceneFiles);
+    m_services.getCommandManager()->setTreeView(m_treeView);
 }
 
 SoNodescopeViewer::~SoNodescopeViewer()

@@ -22,6 +22,8 @@
 #include <QTimer>
 #include <QTreeWidgetItemIterator>
 
+#include <algorithm>
+
 namespace {
 
 const bool Highlights_automatically = SoPreferences::getBool("VXL_NODESCOPE_AUTO_HIGHLIGHT", true);
@@ -329,6 +331,19 @@ void SoNodescopeTreeView::refreshSelection()
     clearSelection();
     setCurrentItem(current);
     viewport()->update();
+    emit referencesChanged();
+}
+
+SoNodescopeTreeView::References SoNodescopeTreeView::references(const SoTreeViewItem& row)
+{
+    // Most nodes stand in one place only; that is known without asking for their rows.
+    if (row.node()->getAuditors().size() < 2)
+        return References::None;
+    const QList<SoTreeViewItem*> rows = m_registry.rows(row.node());
+    if (rows.size() < 2)
+        return References::None;
+    const bool allShown = std::all_of(rows.begin(), rows.end(), [](const SoTreeViewItem* r) { return r->isActive(); });
+    return allShown ? References::Shown : References::Hidden;
 }
 
 SoTreeViewItem* SoNodescopeTreeView::nextReference()

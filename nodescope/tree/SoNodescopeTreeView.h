@@ -76,6 +76,9 @@ public:
     void selectPickedPath(const SoPath& path);
 
     void reapplyFilter();
+    /** Whether a row's node has further rows, and whether those are shown. */
+    enum class References { None, Shown, Hidden };
+    References references(const SoTreeViewItem& row);
     void showAllReferences(SoTreeViewItem* row = nullptr);
     void removeAllReferences(SoTreeViewItem* row = nullptr);
     SoTreeViewItem* nextReference();
@@ -89,6 +92,8 @@ signals:
     void newSceneGraph(SoNode* root);
     /** The current row changed; @p inNewTab when it was clicked with Shift. */
     void rowSelected(SoTreeViewItem* row, bool inNewTab);
+    /** References were hidden or shown. */
+    void referencesChanged();
     /** Something that the user should know about what the tree shows. */
     void statusMessage(const QString& text);
 

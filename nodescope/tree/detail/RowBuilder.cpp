@@ -94,7 +94,9 @@ void RowBuilder::buildChildren(SoTreeViewItem& row) const
 // where all of them will be put.
 void RowBuilder::fill(SoTreeViewItem& row, const SoTreeViewItem* above, const SoTreeViewItem* aboveInView) const
 {
-    if (row.referenceCount() >= 2)
+    // The scene as a whole is held by whoever shows it; that does not make it a shared node.
+    const bool isTop = !above && !aboveInView;
+    if (!isTop && row.referenceCount() >= 2)
         row.updateReferenceIcon(true);
     // A graph that contains itself would go on for ever.
     if (standsAmong(row.node(), above) || standsAmong(row.node(), aboveInView))
