@@ -18,6 +18,9 @@ option(NODESCOPE_FUZZ "Build the libFuzzer targets (clang only)" OFF)
 option(NODESCOPE_SANITIZE "Instrument everything with address and undefined-behaviour sanitizers" OFF)
 
 add_compile_options(-Wall -Wextra -Wpedantic -Werror)
+# Nobody replaces functions of our libraries from outside, so calls inside a library are direct and may be inlined.
+add_compile_options(-fno-semantic-interposition)
+add_link_options(-Wl,-Bsymbolic-functions)
 if(NODESCOPE_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)

@@ -36,7 +36,8 @@ void SoNode::notify(SoNotList& list)
 {
     if (!list.node)
         list.node = this;
-    SoFieldContainer::notify(list);
+    if (isNotifyEnabled() && !isNotifiedOf(list))
+        notifyAuditors(list);
 }
 
 SoNode* SoNode::copy(bool copyConnections) const
