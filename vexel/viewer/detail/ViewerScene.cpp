@@ -2,7 +2,7 @@
 
 #include <vexel/actions/SoGetBoundingBoxAction.h>
 #include <vexel/actions/SoSearchAction.h>
-#include <vexel/base/SoFullPath.h>
+#include <vexel/base/SoPath.h>
 #include <vexel/nodes/SoDirectionalLight.h>
 #include <vexel/nodes/SoDrawStyle.h>
 #include <vexel/nodes/SoOrthographicCamera.h>
@@ -56,7 +56,7 @@ void ViewerScene::setScene(SoNode* scene)
         search.setType(SoCamera::getClassTypeId());
         search.apply(m_scene);
         if (search.getPath())
-            m_camera = static_cast<SoCamera*>(static_cast<SoFullPath*>(search.getPath())->getTail());
+            m_camera = static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1));
     }
     if (m_camera == m_ownCamera)
         m_root->addChild(m_ownCamera);
