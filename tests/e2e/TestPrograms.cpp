@@ -60,6 +60,16 @@ const std::vector<Row>& rows()
          "",
          "cannot write the picture '@/a.what'",
          "@/a.what"},
+        {"HostWithoutAnApplication",
+         "e2e_bare_host",
+         {},
+         0,
+         "before: not running, no application\n"
+         "started: running, an application\nserved: running, an application\nstopped: not running, no application\n"
+         "started: running, an application\nserved: running, an application\nstopped: not running, no application\n"
+         "references: 1\n",
+         "",
+         ""},
     };
     return Table;
 }
