@@ -6,6 +6,7 @@
 #include <QPixmap>
 #include <QString>
 
+#include <utility>
 #include <vector>
 
 QPixmap* NscNodeInfo::m_unknownPixmap = nullptr;
@@ -138,8 +139,10 @@ QPixmap* NscNodeInfo::pixmap(Nsc::NodeCategory category)
 
 void NscNodeInfo::clean()
 {
+    // Whoever still has one of them may go on using it.
+    static auto* const Forgotten = new std::vector<QPixmap*>;
     for (const CategoryRow& row : Categories) {
-        if (row.pixmap)
-            *row.pixmap = nullptr;
+        if (row.pixmap && *row.pixmap)
+            Forgotten->push_back(std::exchange(*row.pixmap, nullptr));
     }
 }
