@@ -1,11 +1,11 @@
 #include <benchmark/benchmark.h>
 
-#include <chrono>
 #include <functional>
 
 #include <QApplication>
 #include <QTreeWidget>
 
+#include <bench/Compare.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
@@ -14,15 +14,6 @@
 #include <vexel/nodes/SoSeparator.h>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-double seconds(const std::function<void()>& work)
-{
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
 
 /** A separator with that many nodes below it: all children of one, or each group with eight children. */
 SoSeparator* makeGraph(int numNodes, bool isFlat)
@@ -76,25 +67,6 @@ void buildBareRows(QTreeWidget& view, SoNode* root)
     view.addTopLevelItem(makeBareRow(root));
 }
 
-/** Times ours and the baseline in turns, several times, and keeps the best of each. */
-void compare(benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& baseline,
-             int numRows)
-{
-    constexpr int Rounds = 3;
-    double best = 1e9;
-    double bestBaseline = 1e9;
-    for (auto _ : state) {
-        for (int round = 0; round < Rounds; ++round) {
-            bestBaseline = std::min(bestBaseline, seconds(baseline));
-            best = std::min(best, seconds(ours));
-        }
-        state.SetIterationTime(best);
-    }
-    state.counters["ratio"] = best / bestBaseline;
-    state.counters["ns_per_row"] = best / numRows * 1e9;
-    state.counters["baseline_ns_per_row"] = bestBaseline / numRows * 1e9;
-}
-
 void BuildRows(benchmark::State& state)
 {
     SoDB::init();
@@ -103,22 +75,14 @@ void BuildRows(benchmark::State& state)
     SoNodescopeTreeView view;
     QTreeWidget bare;
     bare.setColumnCount(5);
-    // Clearing belongs to neither: it is done before the clock starts.
-    double best = 1e9;
-    double bestBaseline = 1e9;
-    for (auto _ : state) {
-        for (int round = 0; round < 3; ++round) {
-            bare.clear();
-            bestBaseline = std::min(bestBaseline, seconds([&] { bare.addTopLevelItem(makeBareRow(root)); }));
+    // Clearing belongs to neither.
+    compare(
+        state, [&] { view.reset(root); }, [&] { bare.addTopLevelItem(makeBareRow(root)); },
+        [&] {
             bare.clear();
             view.reset(nullptr);
-            best = std::min(best, seconds([&] { view.reset(root); }));
-        }
-        state.SetIterationTime(best);
-    }
-    state.counters["ratio"] = best / bestBaseline;
-    state.counters["ns_per_row"] = best / numRows * 1e9;
-    state.counters["baseline_ns_per_row"] = bestBaseline / numRows * 1e9;
+        });
+    state.counters["ns_per_row"] = state.counters["ours_ms"] * 1e6 / numRows;
     view.reset(nullptr);
     root->unref();
 }
@@ -141,8 +105,7 @@ void ExpandAll(benchmark::State& state)
         [&] {
             bare.collapseAll();
             bare.expandAll();
-        },
-        numRows);
+        });
     view.reset(nullptr);
     root->unref();
 }
@@ -167,10 +130,10 @@ void ChangeFilter(benchmark::State& state)
             view.setFilter(Nsc::All_categories & ~Nsc::Camera);
             view.setFilter(Nsc::All_categories);
         },
-        [&] { walk(static_cast<SoTreeViewItem*>(view.topLevelItem(0))); }, numRows);
+        [&] { walk(static_cast<SoTreeViewItem*>(view.topLevelItem(0))); });
     benchmark::DoNotOptimize(seen);
-    state.counters["hide_groups_s"] = seconds([&] { view.setFilter(Nsc::All_categories & ~Nsc::Group); });
-    state.counters["show_groups_s"] = seconds([&] { view.setFilter(Nsc::All_categories); });
+    state.counters["hide_groups_s"] = secondsOf([&] { view.setFilter(Nsc::All_categories & ~Nsc::Group); });
+    state.counters["show_groups_s"] = secondsOf([&] { view.setFilter(Nsc::All_categories); });
     view.reset(nullptr);
     root->unref();
 }

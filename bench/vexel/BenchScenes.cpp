@@ -1,9 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <charconv>
-#include <chrono>
 #include <cstdio>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,6 +9,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <bench/Compare.h>
 #include <vexel/actions/SoWriteAction.h>
 #include <vexel/io/SoDB.h>
 #include <vexel/io/SoInput.h>
@@ -23,32 +22,6 @@
 #include <vexel/nodes/SoTranslation.h>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
-
-double seconds(const std::function<void()>& work)
-{
-    const auto start = Clock::now();
-    work();
-    return std::chrono::duration<double>(Clock::now() - start).count();
-}
-
-/** Times ours and the baseline in turns and keeps the best of each. */
-void compare(benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& baseline)
-{
-    constexpr int Rounds = 4;
-    double best = 1e9;
-    double bestBaseline = 1e9;
-    for (auto _ : state) {
-        for (int round = 0; round < Rounds; ++round) {
-            bestBaseline = std::min(bestBaseline, seconds(baseline));
-            best = std::min(best, seconds(ours));
-        }
-        state.SetIterationTime(best);
-    }
-    state.counters["ratio"] = best / bestBaseline;
-    state.counters["baseline_ms"] = bestBaseline * 1e3;
-}
 
 /** A wavy sheet of a million triangles. */
 SoSeparator* makeSheet()
@@ -129,7 +102,7 @@ void ReadAscii(benchmark::State& state)
             }
             benchmark::DoNotOptimize(numbers.data());
         });
-    state.counters["MB_per_s"] = megabytes / (state.counters["baseline_ms"] / 1e3 * state.counters["ratio"]);
+    state.counters["MB_per_s"] = megabytes / (state.counters["ours_ms"] / 1e3);
 }
 
 /** Against reading the bytes of the same file into a fresh vector. */
@@ -259,7 +232,7 @@ void NotifyTenLevels(benchmark::State& state)
             for (int i = 0; i < Changes; ++i)
                 chain[0].notify(++stamp);
         });
-    state.counters["ns_per_change"] = state.counters["baseline_ms"] * state.counters["ratio"] * 1e6 / Changes;
+    state.counters["ns_per_change"] = state.counters["ours_ms"] * 1e6 / Changes;
     root->unref();
 }
 

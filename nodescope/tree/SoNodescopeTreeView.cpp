@@ -75,15 +75,23 @@ SoNodescopeTreeView::~SoNodescopeTreeView()
 
 void SoNodescopeTreeView::setSceneGraph(SoSelection* root)
 {
-    const auto pick = [](void* view, SoPath* path) {
-        static_cast<SoNodescopeTreeView*>(view)->selectPickedPath(*path);
+    const auto picked = [](void* view, SoSelection* selection) {
+        static_cast<SoNodescopeTreeView*>(view)->selectionPicked(*selection);
     };
     if (m_root)
-        m_root->removeSelectionCallback(pick, this);
+        m_root->removeFinishCallback(picked, this);
     m_root = root;
     m_highlighter->setSelection(root);
     if (m_root)
-        m_root->addSelectionCallback(pick, this);
+        m_root->addFinishCallback(picked, this);
+}
+
+void SoNodescopeTreeView::selectionPicked(SoSelection& selection)
+{
+    if (selection.getNumSelected() > 0)
+        selectPickedPath(*selection.getPath(0));
+    else
+        clearSelection();
 }
 
 SoTreeViewItem* SoNodescopeTreeView::currentRow() const
@@ -232,8 +240,6 @@ void SoNodescopeTreeView::selectChange(QTreeWidgetItem* current, QTreeWidgetItem
 
 void SoNodescopeTreeView::selectPickedPath(const SoPath& path)
 {
-    if (m_highlighter->isHighlighting())
-        return;
     int first = 0;
     while (first < path.getFullLength() && !path.getNode(first)->isOfType(SoSelection::getClassTypeId()))
         ++first;

@@ -122,6 +122,7 @@ private:
     SoTreeViewItem* stepReference(bool forward);
     SoTreeViewItem* stepBookmark(bool forward);
     void refreshSelection();
+    void selectionPicked(SoSelection& selection);
     void resizeColumnsNow();
     void notifySelection(SoTreeViewItem* row);
     bool mayHighlight(const SoTreeViewItem& row) const;

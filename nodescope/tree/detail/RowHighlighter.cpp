@@ -47,9 +47,7 @@ void RowHighlighter::highlight(const SoTreeViewItem& row)
     if (!path)
         return;
     path->ref();
-    m_isHighlighting = true;
     m_selection->deselectAll();
     m_selection->select(path);
-    m_isHighlighting = false;
     path->unref();
 }

@@ -15,13 +15,10 @@ public:
     void setEnabled(bool on) { m_isEnabled = on; }
     /** Marks the node of a row. A row that no path of children leads to leaves things as they are. */
     void highlight(const SoTreeViewItem& row);
-    /** True while the selection changes because of a row. */
-    bool isHighlighting() const { return m_isHighlighting; }
 
 private:
     SoPath* pathTo(const SoTreeViewItem& row) const;
 
     SoSelection* m_selection = nullptr;
     bool m_isEnabled = true;
-    bool m_isHighlighting = false;
 };

@@ -33,18 +33,6 @@ BinaryReader::BinaryReader(SoInput& in, const char* data, std::size_t size)
 {
 }
 
-BinaryReader::~BinaryReader()
-{
-    for (SoBase* base : m_kept)
-        base->unref();
-}
-
-void BinaryReader::keep(SoBase* base)
-{
-    base->ref();
-    m_kept.push_back(base);
-}
-
 bool BinaryReader::post(const char* at, const char* message)
 {
     return m_in.postErrorAtByte(static_cast<std::size_t>(at - m_start), message);
@@ -181,7 +169,7 @@ bool BinaryReader::readContainer(const Chunk& chunk, SoBase*& base)
         container = unknown = new SoUnknownNode;
         unknown->setNodeTypeName(std::string(typeName));
     }
-    keep(container);
+    m_kept.add(container);
     base = container;
     const std::string_view plainName = name.substr(0, name.find('+'));
     if (!plainName.empty())
@@ -339,7 +327,7 @@ bool BinaryReader::readPath(const Chunk& chunk, SoBase*& base)
     if (!head || !head->isOfType(SoNode::getClassTypeId()))
         return post(chunk.body.at, "a path without a head");
     auto* path = new SoPath(static_cast<SoNode*>(head));
-    keep(path);
+    m_kept.add(path);
     for (std::uint32_t i = 0; i < chunk.argument; ++i) {
         std::uint32_t index = 0;
         if (!take(indices.body, index))

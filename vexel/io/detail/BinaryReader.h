@@ -5,6 +5,8 @@
 #include <string_view>
 #include <vector>
 
+#include <vexel/io/detail/KeptObjects.h>
+
 class SoBase;
 class SoField;
 class SoFieldContainer;
@@ -19,7 +21,6 @@ public:
     BinaryReader(SoInput& in, const char* data, std::size_t size);
     BinaryReader(const BinaryReader&) = delete;
     BinaryReader& operator=(const BinaryReader&) = delete;
-    ~BinaryReader();
 
     /** Checks preamble and check sum and reads the names. False, with an error posted, for a damaged file. */
     bool open();
@@ -51,7 +52,6 @@ private:
     bool readValue(SoField& field, const Chunk& chunk, std::uint64_t count);
     bool readConnection(SoField& field, const Chunk& chunk);
     bool readPath(const Chunk& chunk, SoBase*& base);
-    void keep(SoBase* base);
 
     SoInput& m_in;
     const char* m_start;
@@ -62,6 +62,6 @@ private:
         bool isOpen;
     };
     std::vector<Made> m_made;
-    std::vector<SoBase*> m_kept;
+    KeptObjects m_kept;
     int m_depth = 0;
 };

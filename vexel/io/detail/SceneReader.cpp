@@ -39,18 +39,6 @@ private:
 
 SceneReader::SceneReader(SoInput& in) : m_in(in), m_text(in.text()) {}
 
-SceneReader::~SceneReader()
-{
-    for (SoBase* base : m_kept)
-        base->unref();
-}
-
-void SceneReader::keep(SoBase* base)
-{
-    base->ref();
-    m_kept.push_back(base);
-}
-
 SceneReader::Item SceneReader::readItem(SoNode*& node, SoPath*& path)
 {
     node = nullptr;
@@ -176,7 +164,7 @@ bool SceneReader::readDefined(SoType family, std::string_view typeName, const st
         container = unknown = new SoUnknownNode;
         unknown->setNodeTypeName(std::string(typeName));
     }
-    keep(container);
+    m_kept.add(container);
     if (name) {
         if (const std::string_view plain = withoutSuffix(*name); !plain.empty())
             container->setName(SbName(plain));
@@ -377,7 +365,7 @@ bool SceneReader::readPath(SoPath*& path)
     bool good = readContainer(SoNode::getClassTypeId(), head) && m_in.readNumber(count);
     if (good && head) {
         path = new SoPath(static_cast<SoNode*>(head));
-        keep(path);
+        m_kept.add(path);
         for (int i = 0; i < count && good; ++i) {
             int index = 0;
             good = m_in.readNumber(index);

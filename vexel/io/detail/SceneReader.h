@@ -3,9 +3,9 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
-#include <vector>
 
 #include <vexel/base/SoType.h>
+#include <vexel/io/detail/KeptObjects.h>
 
 class SoBase;
 class SoField;
@@ -23,7 +23,6 @@ public:
     explicit SceneReader(SoInput& in);
     SceneReader(const SceneReader&) = delete;
     SceneReader& operator=(const SceneReader&) = delete;
-    ~SceneReader();
 
     /** What may stand at the top of a file. */
     enum class Item { Node, Path, Global, Nothing, Error };
@@ -60,12 +59,10 @@ private:
     bool isNodeAhead();
     bool readGlobal(SoField*& field);
     bool postMissingBrace(std::string_view typeName, const char* opening);
-    void keep(SoBase* base);
 
     SoInput& m_in;
     TextReader& m_text;
     std::unordered_map<std::string, Definition> m_definitions;
-    // One reference on everything made, so that a part of the graph outlives an error in what should hold it.
-    std::vector<SoBase*> m_kept;
+    KeptObjects m_kept;
     int m_depth = 0;
 };
