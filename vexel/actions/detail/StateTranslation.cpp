@@ -1,0 +1,114 @@
+#include <vexel/actions/detail/StateTranslation.h>
+
+#include <algorithm>
+
+#include <vexel/actions/detail/StateColors.h>
+#include <vexel/nodes/SoEnvironment.h>
+#include <vexel/nodes/SoGradientBackground.h>
+#include <vexel/nodes/SoImageBackground.h>
+#include <vexel/nodes/SoLightModel.h>
+#include <vexel/nodes/SoPolygonOffset.h>
+#include <vexel/nodes/SoShape.h>
+#include <vexel/nodes/SoShapeHints.h>
+
+namespace vexel {
+
+namespace {
+
+using Depth = RenderStyle::DepthFunction;
+using Style = RenderStyle;
+
+// By SoDepthBuffer::Function.
+constexpr Depth DepthFunctions[] = {Depth::Less,  Depth::LessEqual,    Depth::Never,   Depth::Always,
+                                    Depth::Equal, Depth::GreaterEqual, Depth::Greater, Depth::NotEqual};
+
+SbVec4f opaque(const SbColor& color)
+{
+    return SbVec4f(color[0], color[1], color[2], 1);
+}
+
+} // namespace
+
+RenderStyle styleOf(const SoStateValues& values, const SoShape& shape)
+{
+    RenderStyle style;
+    style.draw = static_cast<Style::Draw>(values.drawStyle);
+    if (values.transparencyType >= 0)
+        style.transparency = static_cast<Style::Transparency>(values.transparencyType);
+    style.lit = values.lightModel != SoLightModel::BASE_COLOR;
+    // Only shapes that heed the hints have all their faces the way these say.
+    if (shape.getDependencies() & SoShape::ON_SHAPE_HINTS && values.vertexOrdering != SoShapeHints::UNKNOWN_ORDERING) {
+        style.twoSided = false;
+        if (values.shapeType == SoShapeHints::SOLID)
+            style.cull = Style::Cull::Back;
+    }
+    style.depthTest = values.depthTest;
+    style.depthWrite = values.depthWrite;
+    style.depthFunction = DepthFunctions[values.depthFunction];
+    style.depthRange[0] = values.depthRange[0];
+    style.depthRange[1] = values.depthRange[1];
+    style.linePattern = values.linePattern;
+    style.linePatternScale = static_cast<std::uint16_t>(std::clamp(values.linePatternScale, 1, 255));
+    style.lineWidth = values.lineWidth > 0 ? values.lineWidth : 1;
+    style.pointSize = values.pointSize > 0 ? values.pointSize : 1;
+    const int presentStyle = 1 << values.drawStyle;
+    if (values.polygonOffsetOn && (values.polygonOffsetStyles & presentStyle) != 0) {
+        style.offsetFactor = values.polygonOffsetFactor;
+        style.offsetUnits = values.polygonOffsetUnits;
+    }
+    return style;
+}
+
+RenderMaterial materialOf(const SoStateValues& values)
+{
+    const auto part = [](std::uint32_t color, int shift) { return static_cast<float>(color >> shift & 255) / 255; };
+    RenderMaterial material;
+    const std::uint32_t color = stateColor(values, 0);
+    material.diffuse = SbVec3f(part(color, 0), part(color, 8), part(color, 16));
+    material.transparency = 1 - part(color, 24);
+    material.ambient = values.ambientColor.at(0);
+    material.specular = values.specularColor.at(0);
+    material.emissive = values.emissiveColor.at(0);
+    material.shininess = values.shininess.at(0);
+    return material;
+}
+
+bool dependsOnView(const SoShape& shape, const SoStateValues& values)
+{
+    if (shape.getDependencies() & SoShape::ON_VIEW)
+        return true;
+    const auto* environment = static_cast<const SoEnvironment*>(values.environment);
+    return environment && environment->fogType.getValue() != SoEnvironment::NONE &&
+           environment->fogVisibility.getValue() <= 0;
+}
+
+RenderBackground backgroundOf(const SoGradientBackground& node)
+{
+    RenderBackground background;
+    background.kind = RenderBackground::Kind::Gradient;
+    const bool swaps = node.swapColors.getValue();
+    background.topColor = opaque(swaps ? node.color1.getValue() : node.color0.getValue());
+    background.color = opaque(swaps ? node.color0.getValue() : node.color1.getValue());
+    return background;
+}
+
+RenderBackground backgroundOf(const SoImageBackground& node, std::shared_ptr<const RenderImage> image)
+{
+    RenderBackground background;
+    if (!image || node.style.getValue() == SoImageBackground::NONE)
+        return background;
+    switch (node.style.getValue()) {
+    case SoImageBackground::STRETCHED:
+        background.kind = RenderBackground::Kind::Stretched;
+        break;
+    case SoImageBackground::TILED:
+        background.kind = RenderBackground::Kind::Tiled;
+        break;
+    default:
+        background.kind = RenderBackground::Kind::Centered;
+    }
+    background.image = std::move(image);
+    return background;
+}
+
+} // namespace vexel
