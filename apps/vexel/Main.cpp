@@ -19,6 +19,7 @@ const Command Commands[] = {
     {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column", runCheck},
     {"convert", "convert IN OUT [--ascii | --binary]",
      "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert},
+    {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender},
 };
 
 void printUsage()

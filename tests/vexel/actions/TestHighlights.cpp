@@ -1,0 +1,70 @@
+#include "SceneView.h"
+
+#include <vexel/actions/SoBoxHighlightRenderAction.h>
+#include <vexel/actions/SoHaloHighlightRenderAction.h>
+#include <vexel/actions/SoLineHighlightRenderAction.h>
+#include <vexel/nodes/SoSelection.h>
+#include <vexel/nodes/SoSeparator.h>
+
+namespace {
+
+class Highlights : public SceneView {
+protected:
+    void SetUp() override
+    {
+        SceneView::SetUp();
+        read("BaseColor { rgb 0 0 1 } Selection { Separator { Translation { translation -0.5 0 0 }"
+             " Cube { width 0.5 height 0.5 } } Separator { Translation { translation 0.5 0 0 }"
+             " Cube { width 0.5 height 0.5 } } }");
+        selection = static_cast<SoSelection*>(root->getChild(3));
+        selection->select(selection->getChild(1));
+    }
+
+    /** Counts pixels of the marks' green in the left and right half. */
+    static int marks(const QImage& picture, bool right)
+    {
+        int count = 0;
+        for (int y = 0; y < Size; ++y) {
+            for (int x = right ? Size / 2 : 0; x < (right ? Size : Size / 2); ++x)
+                count += picture.pixelColor(x, y).green() > 100 ? 1 : 0;
+        }
+        return count;
+    }
+
+    void check(SoHighlightRenderAction& highlight)
+    {
+        highlight.setColor(SbColor(0, 1, 0));
+        QImage picture = draw(highlight);
+        EXPECT_EQ(0, marks(picture, false));
+        EXPECT_GT(marks(picture, true), 20);
+        EXPECT_COLOR(pixel(picture, 0.5f, 0.1f), 0, 0, 255);
+        highlight.setVisible(false);
+        EXPECT_EQ(0, marks(draw(highlight), true));
+        highlight.setVisible(true);
+        selection->deselectAll();
+        EXPECT_EQ(0, marks(draw(highlight), true));
+        highlight.releaseGraphics();
+    }
+
+    SoSelection* selection = nullptr;
+};
+
+TEST_F(Highlights, LinesMarkTheSelectedPathOnly)
+{
+    SoLineHighlightRenderAction highlight(region);
+    check(highlight);
+}
+
+TEST_F(Highlights, BoxesMarkTheSelectedPathOnly)
+{
+    SoBoxHighlightRenderAction highlight(region);
+    check(highlight);
+}
+
+TEST_F(Highlights, HalosMarkTheSelectedPathOnly)
+{
+    SoHaloHighlightRenderAction highlight(region);
+    check(highlight);
+}
+
+} // namespace
