@@ -4,6 +4,7 @@
 
 #include <vexel/actions/SoAction.h>
 #include <vexel/actions/SoEvent.h>
+#include <vexel/actions/SoHandleEventAction.h>
 #include <vexel/base/SoPath.h>
 
 SoEventCallback::~SoEventCallback()
@@ -50,4 +51,10 @@ bool SoEventCallback::invoke(const SoEvent& event, SoAction* action)
     m_event = nullptr;
     m_action = nullptr;
     return m_handled;
+}
+
+void SoEventCallback::handleEvent(SoHandleEventAction& action)
+{
+    if (invoke(*action.getEvent(), &action))
+        action.setHandled();
 }

@@ -25,6 +25,7 @@ public:
 
     /** Calls the functions for an event; answers whether one of them handled it. */
     bool invoke(const SoEvent& event, SoAction* action);
+    void handleEvent(SoHandleEventAction& action) override;
 
     // For the functions, while they are called.
 

@@ -1,5 +1,8 @@
 #include <vexel/nodes/SoSelection.h>
 
+#include <vexel/actions/SoHandleEventAction.h>
+#include <vexel/actions/SoMouseButtonEvent.h>
+#include <vexel/actions/SoPickedPoint.h>
 #include <vexel/actions/SoSearchAction.h>
 #include <vexel/base/SoPath.h>
 
@@ -144,4 +147,14 @@ void SoSelection::pick(const SoPath* picked, bool isShiftDown)
     m_onFinish.call(this);
     if (path)
         path->unref();
+}
+
+void SoSelection::handleEvent(SoHandleEventAction& action)
+{
+    if (!SoMouseButtonEvent::isButtonPressEvent(action.getEvent(), SoMouseButtonEvent::BUTTON1))
+        return;
+    const SoPickedPoint* picked = action.getPickedPoint();
+    pick(picked ? picked->getPath() : nullptr, action.getEvent()->wasShiftDown());
+    if (picked)
+        action.setHandled();
 }

@@ -67,6 +67,7 @@ public:
     void removeChangeCallback(ClassFunction* function, void* data = nullptr) { m_onChange.remove(function, data); }
     void setPickFilterCallback(PickFilter* filter, void* data = nullptr);
 
+    void handleEvent(SoHandleEventAction& action) override;
     /** Told by the event handling: changes the selection as the policy says. A null path is a pick of nothing. */
     void pick(const SoPath* picked, bool isShiftDown);
 

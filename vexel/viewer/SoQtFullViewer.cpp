@@ -165,7 +165,8 @@ void SoQtFullViewer::toggleCameraType()
 void SoQtFullViewer::setDrawStyle(DrawStyle style)
 {
     m_drawStyle = style;
-    m_scene->setDrawStyle(style == AS_IS ? -1 : int(style));
+    getSceneManager()->getGLRenderAction()->setDrawStyle(style == AS_IS ? -1 : int(style));
+    scheduleRedraw();
     emit modeChanged();
 }
 

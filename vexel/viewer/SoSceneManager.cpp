@@ -79,7 +79,7 @@ void SoSceneManager::render()
 
 void SoSceneManager::releaseGraphics()
 {
-    m_renderAction->contextDestroyed();
+    m_renderAction->releaseGraphics();
 }
 
 bool SoSceneManager::processEvent(const SoEvent& event)

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <vexel/actions/detail/SceneCompiler.h>
 
 #include <vexel/actions/detail/StateTranslation.h>
@@ -234,7 +235,7 @@ void SceneCompiler::visitShape(SoShape& node)
     shape.material = materialOf(values);
     shape.surroundings = m_surroundings.get(state());
     shape.pixelSize = std::max({1.0f, values.lineWidth, values.pointSize});
-    shape.picking = static_cast<SceneShape::Picking>(values.pickStyle);
+    shape.picking = static_cast<SceneShape::Picking>(std::clamp(values.pickStyle, 0, int(SceneShape::Picking::Never)));
     RenderState renderState;
     renderState.style = styleOf(values, node);
     renderState.textures = m_textures.get(state());

@@ -1,6 +1,7 @@
 #include <vexel/actions/detail/StateTranslation.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include <vexel/actions/detail/StateColors.h>
 #include <vexel/nodes/SoEnvironment.h>
@@ -22,6 +23,12 @@ using Style = RenderStyle;
 constexpr Depth DepthFunctions[] = {Depth::Less,  Depth::LessEqual,    Depth::Never,   Depth::Always,
                                     Depth::Equal, Depth::GreaterEqual, Depth::Greater, Depth::NotEqual};
 
+// A field may hold a number that its enumeration does not have; it counts as the first one that it has.
+int known(int value, int count)
+{
+    return value >= 0 && value < count ? value : 0;
+}
+
 SbVec4f opaque(const SbColor& color)
 {
     return SbVec4f(color[0], color[1], color[2], 1);
@@ -32,26 +39,28 @@ SbVec4f opaque(const SbColor& color)
 RenderStyle styleOf(const SoStateValues& values, const SoShape& shape)
 {
     RenderStyle style;
-    style.draw = static_cast<Style::Draw>(values.drawStyle);
+    style.draw = static_cast<Style::Draw>(known(values.drawStyle, int(Style::Draw::Invisible) + 1));
     if (values.transparencyType >= 0)
-        style.transparency = static_cast<Style::Transparency>(values.transparencyType);
+        style.transparency =
+            static_cast<Style::Transparency>(known(values.transparencyType, int(Style::Transparency::SortedPixel) + 1));
     style.lit = values.lightModel != SoLightModel::BASE_COLOR;
-    // Only shapes that heed the hints have all their faces the way these say.
-    if (shape.getDependencies() & SoShape::ON_SHAPE_HINTS && values.vertexOrdering != SoShapeHints::UNKNOWN_ORDERING) {
+    // The backs of a solid's faces are never seen; those of open surfaces are lit as well as their fronts. Only shapes
+    // that heed the hints have all their faces the way these say.
+    if (shape.getDependencies() & SoShape::ON_SHAPE_HINTS && values.vertexOrdering != SoShapeHints::UNKNOWN_ORDERING &&
+        values.shapeType == SoShapeHints::SOLID) {
         style.twoSided = false;
-        if (values.shapeType == SoShapeHints::SOLID)
-            style.cull = Style::Cull::Back;
+        style.cull = Style::Cull::Back;
     }
     style.depthTest = values.depthTest;
     style.depthWrite = values.depthWrite;
-    style.depthFunction = DepthFunctions[values.depthFunction];
+    style.depthFunction = DepthFunctions[known(values.depthFunction, int(std::size(DepthFunctions)))];
     style.depthRange[0] = values.depthRange[0];
     style.depthRange[1] = values.depthRange[1];
     style.linePattern = values.linePattern;
     style.linePatternScale = static_cast<std::uint16_t>(std::clamp(values.linePatternScale, 1, 255));
     style.lineWidth = values.lineWidth > 0 ? values.lineWidth : 1;
     style.pointSize = values.pointSize > 0 ? values.pointSize : 1;
-    const int presentStyle = 1 << values.drawStyle;
+    const int presentStyle = 1 << int(style.draw);
     if (values.polygonOffsetOn && (values.polygonOffsetStyles & presentStyle) != 0) {
         style.offsetFactor = values.polygonOffsetFactor;
         style.offsetUnits = values.polygonOffsetUnits;

@@ -4,7 +4,6 @@
 #include <vexel/actions/SoSearchAction.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/nodes/SoDirectionalLight.h>
-#include <vexel/nodes/SoDrawStyle.h>
 #include <vexel/nodes/SoOrthographicCamera.h>
 #include <vexel/nodes/SoPerspectiveCamera.h>
 #include <vexel/nodes/SoRotation.h>
@@ -17,7 +16,7 @@
 
 ViewerScene::ViewerScene()
     : m_root(new SoSeparator), m_lightRotation(new SoRotation), m_headlight(new SoDirectionalLight),
-      m_drawStyle(new SoDrawStyle), m_ownCamera(new SoPerspectiveCamera), m_camera(m_ownCamera)
+      m_ownCamera(new SoPerspectiveCamera), m_camera(m_ownCamera)
 {
     m_root->ref();
     m_ownCamera->ref();
@@ -26,8 +25,6 @@ ViewerScene::ViewerScene()
     lights->addChild(m_lightRotation);
     lights->addChild(m_headlight);
     m_root->addChild(lights);
-    m_root->addChild(m_drawStyle);
-    m_drawStyle->style.setIgnored(true);
     m_root->addChild(m_ownCamera);
 }
 
@@ -88,13 +85,6 @@ void ViewerScene::toggleProjection()
     m_root->replaceChild(m_ownCamera, other);
     m_ownCamera->unref();
     m_ownCamera = m_camera = other;
-}
-
-void ViewerScene::setDrawStyle(int style)
-{
-    m_drawStyle->setOverride(style >= 0);
-    m_drawStyle->style = std::max(style, 0);
-    m_drawStyle->style.setIgnored(style < 0);
 }
 
 void ViewerScene::setHeadlight(bool on)

@@ -3,7 +3,6 @@
 class SbViewportRegion;
 class SoCamera;
 class SoDirectionalLight;
-class SoDrawStyle;
 class SoNode;
 class SoRotation;
 class SoSeparator;
@@ -28,9 +27,6 @@ public:
     void setHeadlight(bool on);
     bool hasHeadlight() const;
 
-    /** Draws everything filled (-1), as lines or as points, whatever the scene says (SoDrawStyle::Style). */
-    void setDrawStyle(int style);
-
     /** Sets the near and far distance around the scene, and lets the headlight follow the camera. */
     void prepareFrame(const SbViewportRegion& region);
 
@@ -38,7 +34,6 @@ private:
     SoSeparator* m_root;
     SoRotation* m_lightRotation;
     SoDirectionalLight* m_headlight;
-    SoDrawStyle* m_drawStyle;
     SoCamera* m_ownCamera;
     SoCamera* m_camera;
     SoNode* m_scene = nullptr;
