@@ -6,6 +6,16 @@ void _startNode(SoNode* root, QWidget* parent)
     SoNodescopeImpl::startNode(root, parent);
 }
 
+void _startRenderArea(SoGuiRenderArea* renderArea)
+{
+    SoNodescopeImpl::startRenderArea(renderArea);
+}
+
+void _startSceneManager(SoSceneManager* sceneManager, QWidget* parent)
+{
+    SoNodescopeImpl::startSceneManager(sceneManager, parent);
+}
+
 void _startStandalone(int argc, char** argv)
 {
     // The application object keeps a reference to the number of arguments.
@@ -30,3 +40,8 @@ int _processEvents()
 }
 
 void _setSceneGraph(void*) {}
+
+void _setPickAction(const SbViewportRegion& region, SbVec2s cursor)
+{
+    SoNodescopeImpl::setPickAction(region, cursor);
+}

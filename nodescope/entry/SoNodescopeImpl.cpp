@@ -4,8 +4,12 @@
 
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 #include <nodescope/mainframe/SoNodescopeViewer.h>
+#include <vexel/base/SoLibNodescope.h>
 #include <vexel/base/SoPreferences.h>
 #include <vexel/io/SoDB.h>
+#include <vexel/viewer/SoGuiRenderArea.h>
+#include <vexel/viewer/SoSceneManager.h>
+#include <vexel/viewer/SoSceneManagerImpl.h>
 
 #include <QCoreApplication>
 
@@ -32,12 +36,27 @@ bool start(const HostingFacts& facts)
     return true;
 }
 
+void startOnSceneManager(SoSceneManager* sceneManager, SoGuiRenderArea* renderArea, QWidget* parent)
+{
+    HostingFacts facts;
+    facts.parent = parent;
+    facts.sceneManager = sceneManager;
+    facts.renderArea = renderArea;
+    if (!start(facts))
+        return;
+    sceneManager->getSceneManagerImpl()->setOwnNodescope(1);
+    SoNodescopeViewer::getInstance()->setSceneGraph(sceneManager->getSceneGraph(), true);
+    Inspection::showMainFrame();
+}
+
 } // namespace
 
 SoNodescopeImpl::~SoNodescopeImpl() = default;
 
 void SoNodescopeImpl::startStandalone(int& argc, char** argv)
 {
+    if (!running && !SoLibNodescope::isAvailable())
+        SoLibNodescope::instance(); // nodes and viewers of the program find the inspector through it
     HostingFacts facts;
     facts.isStandalone = true;
     facts.argc = &argc;
@@ -54,6 +73,22 @@ void SoNodescopeImpl::startNode(SoNode* root, QWidget* parent)
         return;
     SoNodescopeViewer::getInstance()->setSceneGraph(root, true);
     Inspection::showMainFrame();
+}
+
+void SoNodescopeImpl::startRenderArea(SoGuiRenderArea* renderArea)
+{
+    startOnSceneManager(renderArea->getSceneManager(), renderArea, nullptr);
+}
+
+void SoNodescopeImpl::startSceneManager(SoSceneManager* sceneManager, QWidget* parent)
+{
+    startOnSceneManager(sceneManager, sceneManager->getSceneManagerImpl()->getRenderArea(), parent);
+}
+
+void SoNodescopeImpl::setPickAction(const SbViewportRegion& region, SbVec2s cursor)
+{
+    if (running)
+        SoNodescopeViewer::getInstance()->pick(region, cursor);
 }
 
 int SoNodescopeImpl::processEvents()

@@ -1,5 +1,6 @@
 #include "SoNodescopeViewer.h"
 #include "SoNodescopeMainFrame.h"
+#include "detail/HighlightChoice.h"
 #include "detail/NodeKeeper.h"
 #include "detail/PanelDocks.h"
 
@@ -9,13 +10,20 @@
 #include <nodescope/shell/NscShellImpl.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
+#include <vexel/actions/SoHighlightRenderAction.h>
+#include <vexel/actions/SoPickedPoint.h>
+#include <vexel/actions/SoRayPickAction.h>
+#include <vexel/nodes/SoCamera.h>
 #include <vexel/nodes/SoSelection.h>
+#include <vexel/viewer/SoQtExaminerViewer.h>
+#include <vexel/viewer/SoSceneManager.h>
 
 #include <QStatusBar>
 
 namespace {
 
 constexpr int Tree_width = 420;
+const SbColorRGBA Background(0.24f, 0.27f, 0.31f, 1); ///< dark and bright things are both seen before it
 
 SoNodescopeViewer* instance = nullptr;
 
@@ -43,6 +51,7 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     makePanels();
     m_treeView->setSceneGraph(m_selection);
     m_treeView->setHighlightingEnabled(m_highlights);
+    m_services.setSelection(m_highlights ? m_selection : nullptr);
     connect(m_treeView, &SoNodescopeTreeView::newSceneGraph, &m_services, &NscServicesImpl::announceSceneGraph);
     connect(m_treeView, &SoNodescopeTreeView::rowSelected, this, &SoNodescopeViewer::selectNode);
     connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
@@ -66,11 +75,28 @@ SoNodescopeViewer::~SoNodescopeViewer()
 void SoNodescopeViewer::makePanels()
 {
     if (m_services.isStandalone()) {
-        PanelDocks::addSceneView(m_frame);
+        makeExaminer();
         QDockWidget* const dock = PanelDocks::add(m_frame, PanelDocks::Panel::TreeView, m_treeView);
         m_frame.resizeDocks({dock}, {Tree_width}, Qt::Horizontal);
     } else {
         m_frame.setCentralWidget(m_treeView);
+    }
+}
+
+void SoNodescopeViewer::makeExaminer()
+{
+    QDockWidget* const dock = PanelDocks::addSceneView(m_frame);
+    m_examiner = std::make_unique<SoQtExaminerViewer>(dock, "Examiner", true, SoQtFullViewer::BUILD_ALL,
+                                                      SoQtFullViewer::BROWSER);
+    dock->setWidget(m_examiner->getWidget());
+    m_examiner->getGLWidget()->installEventFilter(m_treeView);
+    m_services.setRenderArea(m_examiner.get());
+    SoSceneManager* const sceneManager = m_examiner->getSceneManager();
+    m_services.setSceneManager(sceneManager);
+    m_examiner->setBackgroundColorRGBA(Background);
+    if (SoHighlightRenderAction* action = HighlightChoice::makeAction(sceneManager->getViewportRegion())) {
+        action->setVisible(m_highlights);
+        sceneManager->setGLRenderAction(action);
     }
 }
 
@@ -92,11 +118,31 @@ void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
     emit m_treeView->newSceneGraph(root);
     m_selection->addChild(root);
     m_selection->deselectAll();
+    if (m_examiner)
+        m_examiner->setSceneGraph(m_selection);
 }
 
 bool SoNodescopeViewer::isModified() const
 {
     return m_services.getCommandManager()->isModified();
+}
+
+void SoNodescopeViewer::pick(const SbViewportRegion& region, SbVec2s cursor)
+{
+    const auto* host = m_services.isStandalone() ? nullptr : dynamic_cast<SoGuiViewer*>(m_services.getRenderArea());
+    if (!host || host->isViewing() || !m_scene)
+        return;
+    auto* root = new SoSeparator;
+    const NodeKeeper keeper(root);
+    root->addChild(host->getCamera());
+    root->addChild(m_scene);
+    SoRayPickAction action(region);
+    action.setPoint(cursor);
+    action.apply(root);
+    const SoPickedPoint* const point = action.getPickedPoint();
+    SoTreeViewItem* const row = point ? m_treeView->rowForPath(*point->getPath(), 1) : nullptr;
+    if (row)
+        m_treeView->revealRow(row);
 }
 
 void SoNodescopeViewer::selectNode(SoTreeViewItem* row)

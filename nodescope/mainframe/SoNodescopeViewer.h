@@ -5,10 +5,14 @@
 #include <nodescope/mainframe/SceneFiles.h>
 
 #include <QObject>
+#include <memory>
 
 class NscServicesImpl;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
+class SbVec2s;
+class SbViewportRegion;
+class SoQtExaminerViewer;
 class SoSelection;
 class SoTreeViewItem;
 
@@ -31,6 +35,10 @@ public:
     SoSelection* selection() const { return m_selection; }
     SceneFiles& sceneFiles() { return m_sceneFiles; }
 
+    /** Makes the row current whose node is under a place of the host's picture. Nothing when standalone, or while the
+     * host's viewer uses the mouse for its camera. */
+    void pick(const SbViewportRegion& region, SbVec2s cursor);
+
     SoNode* scene() const override { return m_scene; }
     void setSceneGraph(SoNode* root, bool resetCommands) override;
     bool isModified() const override;
@@ -39,11 +47,13 @@ private:
     SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services);
 
     void makePanels();
+    void makeExaminer();
     void selectNode(SoTreeViewItem* row);
 
     SoNodescopeMainFrame& m_frame;
     NscServicesImpl& m_services;
     SceneFiles m_sceneFiles;
+    std::unique_ptr<SoQtExaminerViewer> m_examiner; ///< null on a host
     SoSelection* m_selection;
     SoNodescopeTreeView* m_treeView;
     SoNode* m_scene = nullptr;

@@ -2,10 +2,18 @@
 
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SoNodescopeViewer.h>
+#include <vexel/nodes/SoSelection.h>
+#include <vexel/viewer/SoSceneManager.h>
 
 namespace {
 
 NscServicesImpl* instance = nullptr;
+
+void scheduleRedraw(void*, SoSelection*)
+{
+    if (instance && instance->getSceneManager())
+        instance->getSceneManager()->scheduleRedraw();
+}
 
 } // namespace
 
@@ -25,7 +33,21 @@ NscServicesImpl::NscServicesImpl() : m_commandManager(std::make_unique<SoCommand
 
 NscServicesImpl::~NscServicesImpl()
 {
+    setSelection(nullptr);
     instance = nullptr;
+}
+
+void NscServicesImpl::setSelection(SoSelection* selection)
+{
+    if (selection)
+        selection->ref();
+    if (m_selection) {
+        m_selection->removeChangeCallback(scheduleRedraw);
+        m_selection->unref();
+    }
+    m_selection = selection;
+    if (m_selection)
+        m_selection->addChangeCallback(scheduleRedraw);
 }
 
 void NscServicesImpl::announceSceneGraph(SoNode* root)

@@ -26,6 +26,8 @@ public:
     void setSceneManager(SoSceneManager* sceneManager) { m_sceneManager = sceneManager; }
     ///@}
 
+    /** The selection node whose changes cause redraws; null: none. It is referenced. */
+    void setSelection(SoSelection* selection);
     /** The viewer shows another scene: keeps and announces it. */
     void announceSceneGraph(SoNode* root);
 
@@ -49,6 +51,7 @@ private:
     SoField* m_selectedField = nullptr;
     SoFieldContainer* m_selectedNode = nullptr;
     SoNode* m_sceneGraph = nullptr;
+    SoSelection* m_selection = nullptr;
     SoGuiRenderArea* m_renderArea = nullptr;
     SoSceneManager* m_sceneManager = nullptr;
     bool m_isStandalone = false;

@@ -70,6 +70,14 @@ const std::vector<Row>& rows()
          "references: 1\n",
          "",
          ""},
+        {"HostWithTheToolkitOnly",
+         "e2e_toolkit_host",
+         {},
+         0,
+         "available at first: no\navailable then: yes\nbefore: not running\nstarted: running\nserved: running\n"
+         "stopped: not running\nstarted: running\nserved: running\nstopped: not running\nreferences: 1\n",
+         "",
+         ""},
     };
     return Table;
 }

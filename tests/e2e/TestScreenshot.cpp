@@ -45,3 +45,11 @@ TEST_F(Screenshot, ShowsTheRowsOfTheTree)
     EXPECT_LT(coloursIn(empty, rows), 6u);
     EXPECT_GT(coloursIn(scene, rows), 40u);
 }
+
+TEST_F(Screenshot, ShowsThe3DView)
+{
+    const QRect view(520, 180, 600, 420);
+    EXPECT_GT(coloursIn(take({}), view), 20u); // the gradient that stands there before a scene is opened
+    const QImage scene = take({SCENE_FOLDER "/workbench.vx"});
+    EXPECT_GT(coloursIn(scene, view), 200u);
+}

@@ -76,7 +76,8 @@ void SoQtFullViewer::setSceneGraph(SoNode* root)
 {
     stopMovingCamera();
     m_scene->setScene(root);
-    viewAll();
+    if (m_scene->usesOwnCamera()) // a camera of the scene is part of what was made, and stays as it is
+        viewAll();
     saveHomePosition();
     emit modeChanged();
 }

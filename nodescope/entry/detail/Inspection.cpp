@@ -17,6 +17,9 @@
 #include <vexel/base/SoPreferences.h>
 #include <vexel/nodes/SoGradientBackground.h>
 #include <vexel/nodes/SoSeparator.h>
+#include <vexel/viewer/SoQt.h>
+#include <vexel/viewer/SoSceneManager.h>
+#include <vexel/viewer/SoSceneManagerImpl.h>
 
 #include <QApplication>
 #include <QLocale>
@@ -69,14 +72,16 @@ void Inspection::initialize(const QStringList& arguments, const SoSceneManager* 
     if (!SoPreferences::hasValue("VXL_DEBUG_STACKERROR"))
         SoPreferences::setValue("VXL_DEBUG_STACKERROR", "1");
     SoPreferences::setValue("VXL_STACKWALKER_HTML_OUTPUT", "1");
+    NscServicesImpl& services = *NscServicesImpl::getInstance();
+    SoNodescopeMainFrame& frame = *NscShellImpl::getInstance()->getMainFrame();
+    if (services.isStandalone())
+        SoQt::init(&frame);
     QLocale::setDefault(QLocale(QLocale::C, QLocale::AnyCountry)); // numbers have a decimal point everywhere
     SoErrorStack::setHandlerCallback(criticalErrorHandler);
     for (const char* module : Optional_modules)
         SpnSymTool::initModule(module);
 
-    NscServicesImpl& services = *NscServicesImpl::getInstance();
     SoCommandManager& manager = *services.getCommandManager();
-    SoNodescopeMainFrame& frame = *NscShellImpl::getInstance()->getMainFrame();
     using Hosting = SoNodescopeMainFrame::Hosting;
     frame.setUp(&manager, services.isStandalone() ? Hosting::Standalone : Hosting::Attached);
     SoNodescopeViewer& viewer = *SoNodescopeViewer::getInstance();
@@ -97,10 +102,16 @@ void Inspection::showMainFrame()
 
 void Inspection::cleanup()
 {
+    const NscServicesImpl& services = *NscServicesImpl::getInstance();
+    const bool isStandalone = services.isStandalone();
+    if (SoSceneManager* sceneManager = services.getSceneManager())
+        sceneManager->getSceneManagerImpl()->setOwnNodescope(0);
     NscPluginsManager::releaseInstance(); // extensions go while shell and services still exist
     NscServicesImpl::deleteInstance();
     SoNodescopeViewer::deleteInstance();
     NscShellImpl::deleteInstance();
+    if (isStandalone)
+        SoQt::finish();
     SoPreferenceStore::deleteInstance();
     NscNodeInfo::clean();
     SoErrorStack::setHandlerCallback(nullptr);

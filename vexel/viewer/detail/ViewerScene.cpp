@@ -55,7 +55,7 @@ void ViewerScene::setScene(SoNode* scene)
         if (search.getPath())
             m_camera = static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1));
     }
-    if (m_camera == m_ownCamera)
+    if (usesOwnCamera())
         m_root->addChild(m_ownCamera);
     if (m_scene)
         m_root->addChild(m_scene);
@@ -63,7 +63,7 @@ void ViewerScene::setScene(SoNode* scene)
 
 void ViewerScene::toggleProjection()
 {
-    if (m_camera != m_ownCamera)
+    if (!usesOwnCamera())
         return;
     CameraState state(*m_ownCamera);
     SoCamera* other = nullptr;

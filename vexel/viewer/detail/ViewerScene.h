@@ -21,6 +21,7 @@ public:
     SoNode* scene() const { return m_scene; }
     /** The first camera of the scene, or the viewer's own. */
     SoCamera* camera() const { return m_camera; }
+    bool usesOwnCamera() const { return m_camera == m_ownCamera; }
     /** Exchanges the viewer's own camera for one of the other kind; a camera of the scene stays. */
     void toggleProjection();
 
