@@ -1,5 +1,7 @@
 #include "SceneView.h"
 
+#include <string>
+
 #include <vexel/nodes/SoCallback.h>
 #include <vexel/nodes/SoSeparator.h>
 
@@ -60,6 +62,17 @@ TEST_F(GLRender, SwitchesAndAnnotationsChooseWhatIsSeen)
     const QImage picture = draw();
     EXPECT_COLOR(pixel(picture, 0.4f, 0), 0, 255, 0);
     EXPECT_COLOR(pixel(picture, 0, 0), 0, 0, 255);
+}
+
+TEST_F(GLRender, OnlySolidsLoseTheirBackFaces)
+{
+    const std::string face = " } BaseColor { rgb 1 0 0 } Coordinate3 { point [-1 -1 0, 1 -1 0, 0 1 0] } FaceSet { }";
+    read(("ShapeHints { vertexOrdering CLOCKWISE shapeType SOLID" + face).c_str());
+    EXPECT_COLOR(at(0, -0.5f), 0, 0, 0);
+    read(("ShapeHints { vertexOrdering COUNTERCLOCKWISE shapeType SOLID" + face).c_str());
+    EXPECT_COLOR(at(0, -0.5f), 255, 0, 0);
+    read(("ShapeHints { vertexOrdering CLOCKWISE" + face).c_str());
+    EXPECT_COLOR(at(0, -0.5f), 255, 0, 0);
 }
 
 TEST_F(GLRender, ClipPlanesCutAway)

@@ -49,7 +49,7 @@ RenderStyle styleOf(const SoStateValues& values, const SoShape& shape)
     if (shape.getDependencies() & SoShape::ON_SHAPE_HINTS && values.vertexOrdering != SoShapeHints::UNKNOWN_ORDERING &&
         values.shapeType == SoShapeHints::SOLID) {
         style.twoSided = false;
-        style.cull = Style::Cull::Back;
+        style.cull = values.vertexOrdering == SoShapeHints::CLOCKWISE ? Style::Cull::Front : Style::Cull::Back;
     }
     style.depthTest = values.depthTest;
     style.depthWrite = values.depthWrite;
