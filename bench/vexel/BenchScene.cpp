@@ -120,3 +120,5 @@ BENCHMARK(Frame)->ArgName("change")->DenseRange(Nothing, Child)->Unit(benchmark:
 BENCHMARK(PickToPath)->Unit(benchmark::kMicrosecond);
 
 } // namespace
+
+BENCHMARK_MAIN();
