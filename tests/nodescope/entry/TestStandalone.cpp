@@ -1,7 +1,10 @@
 #include "InspectionFixture.h"
 
 #include <nodescope/tree/SoNodescopeTreeView.h>
+#include <nodescope/tree/SoTreeViewItem.h>
+#include <vexel/nodes/SoCamera.h>
 #include <vexel/nodes/SoGradientBackground.h>
+#include <vexel/viewer/SoGuiViewer.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -75,4 +78,30 @@ TEST_F(StandaloneTest, ADroppedOrOpenedFileFillsTheTree)
     EXPECT_EQ(frame().windowTitle(), "Nodescope -- " + path("a.vx"));
     frame().action(ActionId::New)->trigger();
     EXPECT_EQ(tree.topLevelItem(0)->childCount(), 0);
+}
+
+TEST_F(StandaloneTest, APickInThe3DViewSelectsTheRow)
+{
+    start();
+    frame().openFile(write("a.vx", "#Vexel V2.1 ascii\nSeparator { Material { } Separator { Cube { } } }\n"));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&frame()));
+    auto* viewer = dynamic_cast<SoGuiViewer*>(NscServices::getInstance()->getRenderArea());
+    ASSERT_TRUE(viewer);
+    QCoreApplication::processEvents();
+    viewer->setViewing(false);
+    QWidget* const view = viewer->getGLWidget();
+    QTest::mouseClick(view, Qt::LeftButton, Qt::NoModifier, view->rect().center());
+    const SoTreeViewItem* row = SoNodescopeViewer::getInstance()->treeView()->currentRow();
+    ASSERT_TRUE(row);
+    EXPECT_EQ(row->text(0), "Cube");
+}
+
+TEST_F(StandaloneTest, TheCameraOfASceneStaysAsItIs)
+{
+    start();
+    frame().openFile(
+        write("a.vx", "#Vexel V2.1 ascii\nSeparator { PerspectiveCamera { position 1 2 30 } Cube { } }\n"));
+    const auto* viewer = dynamic_cast<SoGuiViewer*>(NscServices::getInstance()->getRenderArea());
+    ASSERT_TRUE(viewer);
+    EXPECT_EQ(viewer->getCamera()->position.getValue(), SbVec3f(1, 2, 30));
 }
