@@ -20,7 +20,8 @@ public:
     SoSFEnum type{this, "type", OBJECT_SPACE, Type_names};
     /** 0 coarse to 1 fine. */
     SoSFFloat value{this, "value", 0.5f};
-    /** 0 without textures to 1 best. */
+    /** 0 without textures, below 0.25 in texels with hard edges, below 0.5 smooth, from there on also smooth far off.
+     */
     SoSFFloat textureQuality{this, "textureQuality", 0.5f};
 
     void doAction(SoAction& action) override;

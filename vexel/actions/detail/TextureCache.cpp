@@ -94,6 +94,13 @@ void addNode(const SoNode& node, RenderTexture& texture)
     }
 }
 
+RenderTexture::Filter filterOf(float quality)
+{
+    if (quality < 0.25f)
+        return RenderTexture::Filter::Nearest;
+    return quality < 0.5f ? RenderTexture::Filter::Linear : RenderTexture::Filter::Mipmap;
+}
+
 // The coordinate is the product of point and direction divided by the direction's square.
 SbVec4f planeOf(const SbVec3f& direction)
 {
@@ -139,6 +146,8 @@ std::shared_ptr<const RenderImage> TextureCache::imageOf(const SoNode& node)
 std::vector<RenderTexture> TextureCache::get(const SoState& state)
 {
     std::vector<RenderTexture> textures;
+    if (state->textureQuality <= 0)
+        return textures;
     if (state->bumpMap) {
         RenderTexture texture;
         texture.image = imageOf(*state->bumpMap);
@@ -152,6 +161,7 @@ std::vector<RenderTexture> TextureCache::get(const SoState& state)
         RenderTexture texture;
         texture.image = imageOf(*unit.texture);
         texture.matrix = unit.matrix;
+        texture.filter = filterOf(state->textureQuality);
         addNode(*unit.texture, texture);
         if (unit.function)
             addFunction(*unit.function, texture);
