@@ -3,7 +3,9 @@
 #include <vexel/base/SoError.h>
 #include <vexel/io/SoDB.h>
 
+#include <QGuiApplication>
 #include <cstdio>
+#include <optional>
 
 namespace {
 
@@ -12,14 +14,18 @@ struct Command {
     const char* usage;
     const char* purpose;
     int (*run)(const Arguments& arguments);
+    bool needsFonts;
 };
 
 const Command Commands[] = {
-    {"info", "info FILE", "what a scene consists of: nodes by type, triangles, box, depth, shared nodes", runInfo},
-    {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column", runCheck},
+    {"info", "info FILE", "what a scene consists of: nodes by type, triangles, box, depth, shared nodes", runInfo,
+     true},
+    {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column", runCheck,
+     false},
     {"convert", "convert IN OUT [--ascii | --binary]",
-     "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert},
-    {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender},
+     "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert,
+     false},
+    {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender, true},
 };
 
 void printUsage()
@@ -58,6 +64,11 @@ int main(int argc, char** argv)
     }
     for (const Command& command : Commands) {
         if (arguments[0] == command.name) {
+            std::optional<QGuiApplication> application;
+            if (command.needsFonts) {
+                qputenv("QT_QPA_PLATFORM", "minimal:enable_fonts"); // no command needs a display
+                application.emplace(argc, argv);
+            }
             SoDB::init();
             return command.run(Arguments(arguments.begin() + 1, arguments.end()));
         }
