@@ -48,8 +48,6 @@ QColor readable(const QColor& color, const QColor& background)
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    // The current row is the selected one; a frame around one of its cells would only dim its text.
-    option->state &= ~QStyle::State_HasFocus;
     QColor background = option->palette.color(QPalette::Base);
     if (option->state & QStyle::State_Selected)
         background = Selected_background;
