@@ -6,10 +6,9 @@
 
 namespace {
 
-// What the style sheet puts behind rows under the pointer and behind the selected row.
+// What the style sheet puts behind rows under the pointer.
 const QColor Hover_background(0xd9, 0xe4, 0xf7);
-const QColor Selected_background(0x62, 0x8f, 0xd6);
-constexpr double Readable_contrast = 3.0;
+constexpr double Readable_contrast = 4.5;
 
 double luminance(const QColor& color)
 {
@@ -48,14 +47,11 @@ QColor readable(const QColor& color, const QColor& background)
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
-    QColor background = option->palette.color(QPalette::Base);
-    if (option->state & QStyle::State_Selected)
-        background = Selected_background;
-    else if (option->state & QStyle::State_MouseOver)
-        background = Hover_background;
+    const QColor background =
+        option->state & QStyle::State_MouseOver ? Hover_background : option->palette.color(QPalette::Base);
     const QColor text = option->palette.color(QPalette::Normal, QPalette::Text);
     for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
         option->palette.setColor(group, QPalette::Text, readable(text, background));
-        option->palette.setColor(group, QPalette::HighlightedText, readable(Qt::white, background));
+        option->palette.setColor(group, QPalette::HighlightedText, Qt::white);
     }
 }

@@ -56,7 +56,7 @@ void ThumbWheel::paintEvent(QPaintEvent*)
     shade.setColorAt(0, base.darker(150));
     shade.setColorAt(0.5, base.lighter(112));
     shade.setColorAt(1, base.darker(150));
-    painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Mid));
+    painter.setPen(hasFocus() ? palette().color(QPalette::Highlight) : palette().color(QPalette::Window).darker(160));
     painter.setBrush(shade);
     painter.drawRoundedRect(body, 4, 4);
 
