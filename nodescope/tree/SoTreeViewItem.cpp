@@ -378,7 +378,7 @@ QVariant SoTreeViewItem::data(int column, int role) const
         if (column == TypeColumn) {
             const QPixmap* pixmap = NscNodeInfo::pixmap(m_node);
             if (pixmap && !pixmap->isNull())
-                return QIcon(*pixmap);
+                return RowTexts::icon(*pixmap);
         } else if (column == BookmarkColumn) {
             return m_isBookmarked ? QIcon(QStringLiteral(":/Nodescope_icons/Icons/bookmark.png")) : QIcon();
         }

@@ -4,6 +4,10 @@
 
 #include <vexel/base/SoType.h>
 
+#include <QHash>
+#include <QIcon>
+#include <QPixmap>
+
 #include <vector>
 
 const QString& RowTexts::typeName(SoType type)
@@ -34,4 +38,15 @@ QColor RowTexts::color(int column, bool isIgnored)
     default:
         return Qt::black;
     }
+}
+
+const QIcon& RowTexts::icon(const QPixmap& pixmap)
+{
+    static QHash<qint64, QIcon> known;
+    QIcon& icon = known[pixmap.cacheKey()];
+    if (icon.isNull()) {
+        icon.addPixmap(pixmap);
+        icon.addPixmap(pixmap, QIcon::Selected);
+    }
+    return icon;
 }

@@ -3,6 +3,8 @@
 #include <QColor>
 #include <QString>
 
+class QIcon;
+class QPixmap;
 class SbName;
 class SoType;
 
@@ -13,5 +15,7 @@ namespace RowTexts {
 const QString& typeName(SoType type);
 QString name(const SbName& name);
 QColor color(int column, bool isIgnored);
+/** The picture as an icon that keeps its colours in a selected row; made once for each picture. */
+const QIcon& icon(const QPixmap& pixmap);
 
 } // namespace RowTexts
