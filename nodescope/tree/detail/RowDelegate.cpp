@@ -47,6 +47,8 @@ QColor readable(const QColor& color, const QColor& background)
 void RowDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
 {
     QStyledItemDelegate::initStyleOption(option, index);
+    // The current row is the selected one; a frame around one of its cells would only dim its text.
+    option->state &= ~QStyle::State_HasFocus;
     const QColor background =
         option->state & QStyle::State_MouseOver ? Hover_background : option->palette.color(QPalette::Base);
     const QColor text = option->palette.color(QPalette::Normal, QPalette::Text);
