@@ -1,5 +1,6 @@
 #include "SoNodescopeTreeView.h"
 #include "SoTreeViewItem.h"
+#include "detail/Bookmarks.h"
 #include "detail/CategoryFilter.h"
 #include "detail/ClassReference.h"
 #include "detail/ReferenceHiding.h"
@@ -20,7 +21,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QTimer>
-#include <QTreeWidgetItemIterator>
 
 #include <algorithm>
 
@@ -388,29 +388,15 @@ SoTreeViewItem* SoNodescopeTreeView::previousBookmark()
 
 SoTreeViewItem* SoNodescopeTreeView::stepBookmark(bool forward)
 {
-    // From the row beside the current one to the end, and once more from the other end.
-    QList<SoTreeViewItem*> marked;
-    int start = -1;
-    for (QTreeWidgetItemIterator each(this); *each; ++each) {
-        if (*each == currentItem())
-            start = marked.size();
-        if (asRow(*each)->isBookmarked())
-            marked.append(asRow(*each));
-    }
-    if (marked.isEmpty())
-        return nullptr;
-    const int count = marked.size();
-    const bool isOnMark = start >= 0 && start < count && marked[start] == currentItem();
-    const int next = forward ? (start < 0 ? 0 : start + (isOnMark ? 1 : 0)) : (start < 0 ? count : start) - 1;
-    SoTreeViewItem* row = marked[(next + count) % count];
-    revealRow(row);
+    SoTreeViewItem* row = Bookmarks(this).step(forward);
+    if (row)
+        revealRow(row);
     return row;
 }
 
 void SoNodescopeTreeView::clearBookmark()
 {
-    for (QTreeWidgetItemIterator each(this); *each; ++each)
-        asRow(*each)->setBookmarked(false);
+    Bookmarks(this).clear();
 }
 
 void SoNodescopeTreeView::initPreferences()
