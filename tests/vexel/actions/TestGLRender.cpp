@@ -3,6 +3,7 @@
 #include <string>
 
 #include <vexel/nodes/SoCallback.h>
+#include <vexel/nodes/SoComplexity.h>
 #include <vexel/nodes/SoSeparator.h>
 
 namespace {
@@ -41,6 +42,24 @@ TEST_F(GLRender, TexturesCoverSurfaces)
     const QImage picture = draw();
     EXPECT_GT(pixel(picture, -0.8f, 0).red(), 200);
     EXPECT_GT(pixel(picture, 0.8f, 0).blue(), 200);
+}
+
+TEST_F(GLRender, TextureQualityChoosesHowTexelsAreSeen)
+{
+    read("BaseColor { rgb 0 1 0 } DEF quality Complexity { textureQuality 0.1 }"
+         "Texture2 { image 2 1 3 0xff0000 0x0000ff model REPLACE wrapS CLAMP } Cube { }");
+    EXPECT_COLOR(at(-0.1f, 0), 255, 0, 0);
+    EXPECT_COLOR(at(0.1f, 0), 0, 0, 255);
+
+    auto* quality = static_cast<SoComplexity*>(SoNode::getByName("quality"));
+    ASSERT_NE(quality, nullptr);
+    quality->textureQuality = 0.3f;
+    const QColor between = at(-0.1f, 0);
+    EXPECT_GT(between.red(), 100);
+    EXPECT_GT(between.blue(), 50);
+
+    quality->textureQuality = 0;
+    EXPECT_COLOR(at(-0.1f, 0), 0, 255, 0);
 }
 
 TEST_F(GLRender, TransparentSurfacesLetOthersShineThrough)
