@@ -128,7 +128,6 @@ TEST(RoundTrip, APathComesBack)
     SoPath* again = nullptr;
     ASSERT_TRUE(SoDB::read(&in, again));
     ASSERT_TRUE(again);
-    again->ref();
     EXPECT_EQ(again->getLength(), 3);
     EXPECT_EQ(again->getIndex(1), 1);
     EXPECT_EQ(again->getIndex(2), 1);

@@ -247,7 +247,8 @@ bool BinaryReader::readField(SoFieldContainer& container, const Chunk& chunk)
         if (part.kind == BinaryFormat::Connection) {
             connection = part;
         } else if (part.kind == BinaryFormat::Values || part.kind == BinaryFormat::Text) {
-            if (!readValue(*field, part, count))
+            // A field with its default brings no value.
+            if ((flags & BinaryFormat::HasValue) != 0 && !readValue(*field, part, count))
                 return false;
         } else if (readObject(part, object)) {
             objects.push_back(object);
