@@ -189,11 +189,13 @@ bool BinaryReader::readContainer(const Chunk& chunk, SoBase*& base)
         if (part.kind == BinaryFormat::Field) {
             good = readField(*container, part);
         } else if (part.kind == BinaryFormat::Unknown) {
-            good = unknown && readUnknown(*unknown, part);
+            good = unknown && unknown->getNumChildren() == 0 && readUnknown(*unknown, part);
         } else {
             SoBase* child = nullptr;
             good = readObject(part, child);
-            if (child && node && node->hasFileChildren() && child->isOfType(SoNode::getClassTypeId()))
+            // A node that is kept as text has its children in the text.
+            const bool isText = unknown && !unknown->getBodyText().empty();
+            if (child && !isText && node && node->hasFileChildren() && child->isOfType(SoNode::getClassTypeId()))
                 node->getChildren()->append(static_cast<SoNode*>(child));
         }
         m_in.updateProgress(body.at);
