@@ -214,9 +214,7 @@ void BinaryWriter::writePath(const SoPath* path)
         writeContainer(nullptr);
         return;
     }
-    int length = 1;
-    while (length < path->getFullLength() && path->getIndex(length) >= 0)
-        ++length;
+    const int length = SceneWriter::writableLength(*path);
     const Chunk chunk(*this, BinaryFormat::Path, static_cast<std::uint32_t>(length - 1));
     writeContainer(path->getHead());
     const Chunk values(*this, BinaryFormat::Values, sizeof(std::uint32_t) + 256u);

@@ -208,6 +208,14 @@ void SceneWriter::writeConnection(const SoField& field)
     m_out.write((master ? master->getName() : field.getConnectedEngine()->getName()).getView());
 }
 
+int SceneWriter::writableLength(const SoPath& path)
+{
+    int length = 1;
+    while (length < path.getFullLength() && path.getIndex(length) >= 0)
+        ++length;
+    return length;
+}
+
 void SceneWriter::writePath(const SoPath* path)
 {
     if (!path || !path->getHead()) {
@@ -219,10 +227,7 @@ void SceneWriter::writePath(const SoPath* path)
     m_out.writeNewLine();
     writeContainer(path->getHead());
     m_out.writeNewLine();
-    // Nodes held in fields are not reached by indices, so the path ends before the first of them.
-    int length = 1;
-    while (length < path->getFullLength() && path->getIndex(length) >= 0)
-        ++length;
+    const int length = writableLength(*path);
     m_out.writeNumber(length - 1);
     for (int i = 1; i < length; ++i) {
         m_out.write(' ');

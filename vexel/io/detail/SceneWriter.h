@@ -21,6 +21,8 @@ public:
     void prepare(const SoFieldContainer* root);
     void writeContainer(const SoFieldContainer* container);
     void writePath(const SoPath* path);
+    /** Number of nodes of a path that indices lead to: nodes held in fields are not reached by them. */
+    static int writableLength(const SoPath& path);
     /** The fields that differ from their defaults, are ignored or connected. */
     void writeFields(const SoFieldContainer& container);
 
