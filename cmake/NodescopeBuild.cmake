@@ -1,6 +1,7 @@
 # Compiler settings and the few functions with which every folder declares its library, program or tests.
 
 include(GNUInstallDirs)
+include(NodescopePackage)
 
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -76,18 +77,27 @@ function(nodescope_use_automoc TARGET)
   endif()
 endfunction()
 
-# nodescope_add_library(NAME [AUTOMOC] FOLDERS ... LINK ... [PRIVATE_LINK ...] [RESOURCES ...]): a shared library made of all sources
-# in FOLDERS; with AUTOMOC when classes in it have signals or slots.
+# nodescope_add_library(NAME [AUTOMOC] [PACKAGE Nodescope] [AS NAME] FOLDERS ... LINK ... [PRIVATE_LINK ...] [RESOURCES ...]): a shared
+# library made of all sources in FOLDERS; with AUTOMOC when classes in it have signals or slots. Programs outside find it as
+# PACKAGE::AS once it is installed.
 function(nodescope_add_library NAME)
-  cmake_parse_arguments(ARG "AUTOMOC" "" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
+  cmake_parse_arguments(ARG "AUTOMOC" "PACKAGE;AS" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
+  if(NOT ARG_PACKAGE)
+    set(ARG_PACKAGE Nodescope)
+  endif()
+  if(NOT ARG_AS)
+    set(ARG_AS ${NAME})
+  endif()
   nodescope_collect_sources(sources ${ARG_FOLDERS})
   add_library(${NAME} SHARED ${sources} ${ARG_RESOURCES})
-  set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX)
+  set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX EXPORT_NAME ${ARG_AS})
   if(ARG_AUTOMOC)
     nodescope_use_automoc(${NAME})
   endif()
+  target_compile_features(${NAME} PUBLIC cxx_std_17)
   target_link_libraries(${NAME} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
-  install(TARGETS ${NAME} EXPORT ${NAME}Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
+  install(TARGETS ${NAME} EXPORT ${ARG_PACKAGE}Targets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
+    INCLUDES DESTINATION ${NODESCOPE_HEADER_ROOT})
 endfunction()
 
 # nodescope_add_tests(NAME [AUTOMOC] LABEL unit|gui|e2e LINK ...): one test program made of all sources in the current folder.
