@@ -13,6 +13,7 @@
 #include <vexel/fields/SoField.h>
 #include <vexel/io/SoInput.h>
 #include <vexel/io/detail/BinaryFormat.h>
+#include <vexel/io/detail/NewContainer.h>
 #include <vexel/io/detail/SceneReader.h>
 #include <vexel/nodes/SoUnknownNode.h>
 
@@ -158,22 +159,8 @@ bool BinaryReader::readContainer(const Chunk& chunk, SoBase*& base)
 
     if (!isTypeName(typeName))
         return post(chunk.body.at, "the name of a node type is none");
-    const SoType type = SoType::fromName(SbName(typeName));
-    const bool isKnown = type.isDerivedFrom(SoFieldContainer::getClassTypeId()) && type.canCreateInstance() &&
-                         type != SoUnknownNode::getClassTypeId();
-    SoUnknownNode* unknown = nullptr;
-    SoFieldContainer* container = nullptr;
-    if (isKnown) {
-        container = static_cast<SoFieldContainer*>(type.createInstance());
-    } else {
-        container = unknown = new SoUnknownNode;
-        unknown->setNodeTypeName(std::string(typeName));
-    }
-    m_kept.add(container);
+    const auto [container, unknown] = NewContainer(SoType::fromName(SbName(typeName)), typeName, name, m_kept);
     base = container;
-    const std::string_view plainName = name.substr(0, name.find('+'));
-    if (!plainName.empty())
-        container->setName(SbName(plainName));
     const std::size_t number = m_made.size();
     m_made.push_back({container, true});
     auto* node = container->isOfType(SoNode::getClassTypeId()) ? static_cast<SoNode*>(container) : nullptr;

@@ -7,19 +7,15 @@
 #include <vexel/fields/SoFieldContainer.h>
 #include <vexel/io/SoDB.h>
 #include <vexel/io/SoInput.h>
-#include <vexel/nodes/SoUnknownNode.h>
+#include <vexel/io/detail/NewContainer.h>
+#include <vexel/nodes/SoChildList.h>
+#include <vexel/nodes/SoNode.h>
 
 namespace {
 
 std::string quoted(std::string_view word)
 {
     return "\"" + std::string(word) + "\"";
-}
-
-// What follows a plus sign only keeps equal names apart within a file.
-std::string_view withoutSuffix(std::string_view name)
-{
-    return name.substr(0, name.find('+'));
 }
 
 class DepthGuard {
@@ -149,32 +145,22 @@ bool SceneReader::readDefined(SoType family, std::string_view typeName, const st
     }
 
     const SoType type = SoType::fromName(SbName(typeName));
-    const bool isKnown =
-        type.isDerivedFrom(family) && type.canCreateInstance() && type != SoUnknownNode::getClassTypeId();
-    if (!isKnown && type.isDerivedFrom(SoFieldContainer::getClassTypeId())) {
+    if (type.isDerivedFrom(SoFieldContainer::getClassTypeId()) &&
+        !(type.isDerivedFrom(family) && NewContainer::isKnown(type))) {
         m_in.postErrorAt(opening, "a " + std::string(family.getName().getView()) + " is expected here, and " +
                                       quoted(typeName) + " is none");
         m_text.skipBlock('{', '}');
         return false;
     }
-    SoUnknownNode* unknown = nullptr;
-    if (isKnown) {
-        container = static_cast<SoFieldContainer*>(type.createInstance());
-    } else {
-        container = unknown = new SoUnknownNode;
-        unknown->setNodeTypeName(std::string(typeName));
-    }
-    m_kept.add(container);
-    if (name) {
-        if (const std::string_view plain = withoutSuffix(*name); !plain.empty())
-            container->setName(SbName(plain));
+    const NewContainer made(type, typeName, name ? *name : std::string_view(), m_kept);
+    container = made.container;
+    if (name)
         m_definitions[*name] = {container, true};
-    }
 
     // Nobody listens to a node that is not part of a graph yet.
     container->enableNotify(false);
-    if (unknown)
-        readUnknown(*unknown, opening);
+    if (made.unknown)
+        readUnknown(*made.unknown, opening);
     else
         readBody(*container, opening);
     container->enableNotify(true);
