@@ -1,4 +1,4 @@
-#include "ProgramRun.h"
+#include <tests/support/ProgramRun.h>
 
 #include <QImage>
 #include <QTemporaryDir>
@@ -24,8 +24,8 @@ protected:
     {
         const QString file = m_folder.filePath("window.png");
         const ProgramRun run = runProgram("nodescope", QStringList{"--screenshot", file} + files);
-        EXPECT_EQ(run.status, 0) << run.err.toStdString();
-        EXPECT_EQ(run.err.toStdString(), "");
+        EXPECT_EQ(run.status, 0) << run.err;
+        EXPECT_EQ(run.err, "");
         return QImage(file);
     }
 

@@ -1,4 +1,4 @@
-#include "VexelRun.h"
+#include <tests/support/ProgramRun.h>
 
 #include <QDir>
 #include <QImage>
@@ -29,7 +29,7 @@ protected:
 
     void convert(const QString& from, const QString& to, const char* form)
     {
-        const VexelRun run = runVexel({"convert", from, to, form});
+        const ProgramRun run = runProgram("vexel", {"convert", from, to, form});
         EXPECT_EQ(run.status, from == scene() && errorsIn(GetParam()) ? 1 : 0) << run.err;
     }
 
@@ -40,7 +40,7 @@ protected:
 
 TEST_P(Gallery, HasTheErrorsThatItIsMeantToHave)
 {
-    const VexelRun run = runVexel({"check", scene()});
+    const ProgramRun run = runProgram("vexel", {"check", scene()});
     const int errors = errorsIn(GetParam());
     EXPECT_EQ(run.status, errors ? 1 : 0);
     EXPECT_EQ(run.out, scene().toStdString() + (errors ? ": " + std::to_string(errors) + " errors\n" : ": good\n"));
@@ -68,7 +68,7 @@ TEST_P(Gallery, ReadsBackTheSameInEveryForm)
 
 TEST_P(Gallery, IsAPictureOfManyColours)
 {
-    const VexelRun run = runVexel({"render", scene(), path("scene.png"), "--size", "160x120"});
+    const ProgramRun run = runProgram("vexel", {"render", scene(), path("scene.png"), "--size", "160x120"});
     EXPECT_EQ(run.status, errorsIn(GetParam()) ? 1 : 0) << run.err;
     const QImage picture(path("scene.png"));
     ASSERT_EQ(picture.size(), QSize(160, 120));

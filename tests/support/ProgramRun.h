@@ -1,14 +1,19 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <string>
 
 /** How a program ended and what it wrote. */
 struct ProgramRun {
     int status = -1; ///< exit status; -1 when it crashed or did not end
-    QString out;
-    QString err;
+    std::string out;
+    std::string err;
 };
 
-/** Runs one of the built programs to its end. */
+/** Runs one of the built programs, named without its folder, to its end. */
 ProgramRun runProgram(const QString& program, const QStringList& arguments);
+
+/** What stands in a file; nothing when there is none. */
+QByteArray contentOf(const QString& fileName);

@@ -1,4 +1,4 @@
-#include "VexelRun.h"
+#include "ProgramRun.h"
 
 #include <QFile>
 #include <QProcess>
@@ -9,10 +9,14 @@ constexpr int Deadline = 120000; // milliseconds; nothing is waited for that lon
 
 } // namespace
 
-VexelRun runVexel(const QStringList& arguments)
+ProgramRun runProgram(const QString& program, const QStringList& arguments)
 {
     QProcess process;
-    process.start(QStringLiteral(PROGRAM), arguments);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // The plug-ins of an installed tree are no subject here, and their messages would stand among those compared.
+    environment.insert("VXL_NODESCOPE_CONFIGURATION_FILE", QStringLiteral(EMPTY_CONFIGURATION));
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(PROGRAM_FOLDER "/") + program, arguments);
     const bool hasEnded = process.waitForFinished(Deadline);
     if (!hasEnded)
         process.kill();
