@@ -4,10 +4,13 @@
 
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/tree/NodeSearch.h>
+#include <nodescope/tree/NscFindDialog.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
 #include <QAction>
+#include <QComboBox>
 #include <QFileDialog>
 
 SoCommandManager::SoCommandManager(QObject* parent) : QObject(parent), m_history(new CommandHistory(this)) {}
@@ -168,6 +171,50 @@ void SoCommandManager::clearBookmark()
 {
     if (m_treeView)
         m_treeView->clearBookmark();
+}
+
+NscFindDialog& SoCommandManager::findDialog()
+{
+    if (!m_findDialog) {
+        m_findDialog = new NscFindDialog(m_frame->searchBox(), m_frame);
+        connect(m_findDialog, &NscFindDialog::findRequested, this, qOverload<>(&SoCommandManager::find));
+    }
+    return *m_findDialog;
+}
+
+void SoCommandManager::showFindDialog()
+{
+    NscFindDialog& dialog = findDialog();
+    if (dialog.isHidden())
+        dialog.show();
+    else if (!dialog.isActiveWindow())
+        dialog.activateWindow();
+    dialog.setFocus();
+}
+
+void SoCommandManager::find()
+{
+    find(findDialog().flags());
+}
+
+void SoCommandManager::findNext()
+{
+    find(findDialog().flags() & ~NodeSearch::Backward);
+}
+
+void SoCommandManager::findPrevious()
+{
+    find(findDialog().flags() | NodeSearch::Backward);
+}
+
+void SoCommandManager::find(int flags)
+{
+    if (!m_treeView)
+        return;
+    const NscFindDialog& dialog = findDialog();
+    const QString text = dialog.isHidden() ? m_frame->searchBox()->currentText() : dialog.text();
+    if (SoTreeViewItem* row = m_treeView->find(dialog.column(), text, flags))
+        m_treeView->revealRow(row);
 }
 
 void SoCommandManager::setFilter(int filter)

@@ -9,6 +9,7 @@
 
 class CommandHistory;
 class NscCommand;
+class NscFindDialog;
 class QTreeWidgetItem;
 class ReferenceActions;
 class SoNodescopeMainFrame;
@@ -62,11 +63,26 @@ public slots:
     void nextBookmark();
     void previousBookmark();
     void clearBookmark();
+
+    /** Shows the dialog that asks what to look for, and gives it the keyboard. */
+    void showFindDialog();
+    /** Goes to the next row that matches the dialog's settings. The text is that of the main window's find box while
+     * the dialog is hidden. */
+    ///@{
+    void find();
+    void findNext();
+    void findPrevious();
+    ///@}
+
     /** Shows the rows whose category is in the mask. */
     void setFilter(int filter);
 
 private:
+    NscFindDialog& findDialog();
+    void find(int flags);
+
     SoNodescopeMainFrame* m_frame = nullptr;
+    QPointer<NscFindDialog> m_findDialog; ///< made when it is first needed, and owned by the main frame
     QPointer<SoNodescopeTreeView> m_treeView;
     std::unique_ptr<ReferenceActions> m_referenceActions;
     CommandHistory* m_history;

@@ -1,4 +1,5 @@
 #include "SoNodescopeTreeView.h"
+#include "NodeSearch.h"
 #include "SoTreeViewItem.h"
 #include "detail/Bookmarks.h"
 #include "detail/CategoryFilter.h"
@@ -7,6 +8,7 @@
 #include "detail/RowBuilder.h"
 #include "detail/RowDelegate.h"
 #include "detail/RowHighlighter.h"
+#include "detail/RowSearch.h"
 #include "detail/RowSources.h"
 #include "detail/RowTexts.h"
 #include "detail/TreeStyleSheet.h"
@@ -191,6 +193,12 @@ SoTreeViewItem* SoNodescopeTreeView::rowForPath(const SoPath& path, int firstNod
     return row;
 }
 
+SoTreeViewItem* SoNodescopeTreeView::find(int column, const QString& text, int flags)
+{
+    const KeyMatcher matcher(column, text, flags);
+    return RowSearch(*this, matcher, flags & NodeSearch::Backward).find();
+}
+
 void SoNodescopeTreeView::revealRow(SoTreeViewItem* row)
 {
     for (SoTreeViewItem* above = row->parentRow(); above; above = above->parentRow())
@@ -343,7 +351,7 @@ void SoNodescopeTreeView::refreshSelection()
 SoNodescopeTreeView::References SoNodescopeTreeView::references(const SoTreeViewItem& row)
 {
     // Most nodes stand in one place only; that is known without asking for their rows.
-    if (row.node()->getAuditors().size() < 2)
+    if (row.referenceCount() < 2)
         return References::None;
     const QList<SoTreeViewItem*> rows = m_registry.rows(row.node());
     if (rows.size() < 2)

@@ -66,6 +66,12 @@ public:
     SoTreeViewItem* rowForPath(const SoPath& path, int firstNode = 0);
     /** Whether the current row is marked in the 3D view. */
     void setHighlightingEnabled(bool on);
+    /**
+     * The next row behind the current one, round and round, whose key in a column matches; null for none.
+     * @param column  of NodeSearch; any other column is empty in every row
+     * @param flags   a bit set of NodeSearch
+     */
+    SoTreeViewItem* find(int column, const QString& text, int flags);
     /** Makes a row current and visible: all rows above it are expanded. */
     void revealRow(SoTreeViewItem* row);
     /** Shows the row after a rebuild or a command: current, or highlighted in the 3D view. */
