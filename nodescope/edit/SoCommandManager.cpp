@@ -1,6 +1,7 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
 #include "ReferenceActions.h"
+#include "SoNodescopeAddDialog.h"
 
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
@@ -29,6 +30,7 @@ void SoCommandManager::initialize(SoNodescopeMainFrame* frame)
 void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
 {
     m_referenceActions.reset();
+    delete m_addDialog; // it serves one tree
     m_treeView = treeView;
     if (m_treeView && m_frame)
         m_referenceActions = std::make_unique<ReferenceActions>(*m_frame, *m_treeView);
@@ -107,6 +109,18 @@ bool SoCommandManager::addCommand(NscCommand* command)
 void SoCommandManager::clearUndoCommand()
 {
     m_history->clear();
+}
+
+void SoCommandManager::treeAddNode(SoTreeViewItem* item)
+{
+    if (item && m_treeView)
+        m_treeView->setCurrentItem(item);
+    if (!m_treeView || !m_treeView->currentRow())
+        return;
+    if (!m_addDialog)
+        m_addDialog = new SoNodescopeAddDialog(*m_treeView, m_frame);
+    m_addDialog->show();
+    m_addDialog->activateWindow();
 }
 
 void SoCommandManager::saveSubSceneGraph(SoTreeViewItem* item)

@@ -12,6 +12,7 @@ class NscCommand;
 class NscFindDialog;
 class QTreeWidgetItem;
 class ReferenceActions;
+class SoNodescopeAddDialog;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
 class SoTreeViewItem;
@@ -51,6 +52,8 @@ public slots:
 
     // Slots on a row take the tree's current one when none is given, and do nothing when there is none.
 
+    /** Shows the dialog that adds nodes at a row. */
+    void treeAddNode(SoTreeViewItem* item = nullptr);
     /** Writes the graph below a row to a file that the user names. */
     void saveSubSceneGraph(SoTreeViewItem* item = nullptr);
     void expandAll(QTreeWidgetItem* startItem = nullptr);
@@ -82,7 +85,9 @@ private:
     void find(int flags);
 
     SoNodescopeMainFrame* m_frame = nullptr;
-    QPointer<NscFindDialog> m_findDialog; ///< made when it is first needed, and owned by the main frame
+    // Dialogs are made when they are first needed, and owned by the main frame.
+    QPointer<NscFindDialog> m_findDialog;
+    QPointer<SoNodescopeAddDialog> m_addDialog;
     QPointer<SoNodescopeTreeView> m_treeView;
     std::unique_ptr<ReferenceActions> m_referenceActions;
     CommandHistory* m_history;

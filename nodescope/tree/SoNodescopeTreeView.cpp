@@ -199,6 +199,11 @@ SoTreeViewItem* SoNodescopeTreeView::find(int column, const QString& text, int f
     return RowSearch(*this, matcher, flags & NodeSearch::Backward).find();
 }
 
+void SoNodescopeTreeView::insertNode(const QString& typeName)
+{
+    emit insertRequested(typeName);
+}
+
 void SoNodescopeTreeView::revealRow(SoTreeViewItem* row)
 {
     for (SoTreeViewItem* above = row->parentRow(); above; above = above->parentRow())

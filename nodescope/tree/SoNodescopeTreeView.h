@@ -72,6 +72,8 @@ public:
      * @param flags   a bit set of NodeSearch
      */
     SoTreeViewItem* find(int column, const QString& text, int flags);
+    /** Asks for a new node of a type at the current row. */
+    void insertNode(const QString& typeName);
     /** Makes a row current and visible: all rows above it are expanded. */
     void revealRow(SoTreeViewItem* row);
     /** Shows the row after a rebuild or a command: current, or highlighted in the 3D view. */
@@ -98,6 +100,8 @@ signals:
     void newSceneGraph(SoNode* root);
     /** The current row changed; @p inNewTab when it was clicked with Shift. */
     void rowSelected(SoTreeViewItem* row, bool inNewTab);
+    /** A new node of a type is wanted at the current row. */
+    void insertRequested(const QString& typeName);
     /** References were hidden or shown. */
     void referencesChanged();
     /** Something that the user should know about what the tree shows. */
