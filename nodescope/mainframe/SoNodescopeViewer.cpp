@@ -64,10 +64,9 @@ SoNodescopeViewer::~SoNodescopeViewer()
 {
     m_frame.setSceneFiles(nullptr);
     m_treeView->disconnect();
-    m_treeView->reset(nullptr);
-    m_treeView->setSceneGraph(nullptr);
     m_selection->deselectAll();
     m_selection->removeAllChildren();
+    m_treeView->setSceneGraph(nullptr);
     m_selection->unref();
     instance = nullptr;
 }
@@ -107,15 +106,11 @@ void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
     if (m_highlights)
         m_selection->deselectAll();
     const NodeKeeper keeper(root);
-    const NodeKeeper previousKeeper(m_scene); // its rows go only with those of the new scene
-    m_selection->removeAllChildren();
+    m_selection->removeAllChildren(); // and with them the rows
     m_scene = root;
-    if (!root) {
-        m_treeView->reset(nullptr);
-        m_services.announceSceneGraph(nullptr);
-        return;
-    }
     emit m_treeView->newSceneGraph(root);
+    if (!root)
+        return;
     m_selection->addChild(root);
     m_selection->deselectAll();
     if (m_examiner)

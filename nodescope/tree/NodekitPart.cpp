@@ -4,31 +4,31 @@
 #include <vexel/nodekits/SoBaseKit.h>
 #include <vexel/nodekits/SoNodekitCatalog.h>
 
-NodekitPart::NodekitPart(SoBaseKit* describingKit, SoNode* node) : kit(describingKit)
+NodekitPart::NodekitPart(SoBaseKit& kit, const SoNode& node)
+    : m_kit(kit), m_name(kit.getPartString(&node).toLatin1().constData())
 {
-    partName = SbName(kit->getPartString(node).toLatin1().constData());
-    isPart = !partName.isEmpty();
-    if (!isPart)
-        return;
-    kind = partName == "topSeparator" ? TopSeparator : OrdinaryPart;
-    partNumber = kit->getNodekitCatalog().getPartNumber(partName);
+    if (isPart())
+        m_number = kit.getNodekitCatalog().getPartNumber(m_name);
+}
+
+NodekitPart::Kind NodekitPart::kind() const
+{
+    if (!isPart())
+        return NoPart;
+    return m_name == "topSeparator" ? TopSeparator : OrdinaryPart;
 }
 
 SbName NodekitPart::parentName() const
 {
-    return isPart ? kit->getNodekitCatalog().getParentName(partNumber) : SbName();
+    return m_number >= 0 ? m_kit.getNodekitCatalog().getParentName(m_number) : SbName();
 }
 
 bool NodekitPart::isPublic() const
 {
-    return isPart && kit->getNodekitCatalog().isPublic(partNumber);
+    return m_number >= 0 && m_kit.getNodekitCatalog().isPublic(m_number);
 }
 
-bool NodekitPart::isNested(SoBaseKit* kit, SoNode* node)
+bool NodekitPart::isNested() const
 {
-    const SbName name(kit->getPartString(node).toLatin1().constData());
-    if (name.isEmpty())
-        return false;
-    const SoNodekitCatalog& catalog = kit->getNodekitCatalog();
-    return catalog.getParentPartNumber(catalog.getPartNumber(name)) != 0;
+    return m_number >= 0 && m_kit.getNodekitCatalog().getParentPartNumber(m_number) != 0;
 }

@@ -1,5 +1,6 @@
 #include "SoNodescopeTreeView.h"
 #include "NodeSearch.h"
+#include "SoGraphTopologyManager.h"
 #include "SoTreeViewItem.h"
 #include "detail/Bookmarks.h"
 #include "detail/CategoryFilter.h"
@@ -9,14 +10,12 @@
 #include "detail/RowDelegate.h"
 #include "detail/RowHighlighter.h"
 #include "detail/RowSearch.h"
-#include "detail/RowSources.h"
 #include "detail/RowTexts.h"
 #include "detail/TreeStyleSheet.h"
 
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoPreferences.h>
 #include <vexel/nodes/SoSelection.h>
-#include <vexel/nodes/SoWWWInline.h>
 
 #include <QDesktopServices>
 #include <QHeaderView>
@@ -30,6 +29,8 @@ namespace {
 
 const bool Highlights_automatically = SoPreferences::getBool("VXL_NODESCOPE_AUTO_HIGHLIGHT", true);
 
+constexpr int Update_delay = 100; // milliseconds
+
 SoTreeViewItem* asRow(QTreeWidgetItem* item)
 {
     return static_cast<SoTreeViewItem*>(item);
@@ -39,7 +40,8 @@ SoTreeViewItem* asRow(QTreeWidgetItem* item)
 
 SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
     : QTreeWidget(parent), m_registry(this), m_filter(std::make_unique<CategoryFilter>(this)),
-      m_references(std::make_unique<ReferenceHiding>(m_registry)), m_highlighter(std::make_unique<RowHighlighter>())
+      m_references(std::make_unique<ReferenceHiding>(m_registry)), m_highlighter(std::make_unique<RowHighlighter>()),
+      m_topologyManager(std::make_unique<SoGraphTopologyManager>(this))
 {
     setColumnCount(SoTreeViewItem::ColumnCount);
     header()->setStretchLastSection(false);
@@ -65,7 +67,6 @@ SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
             [this](QTreeWidgetItem* item) { makePendingChildren(asRow(item)); });
     connect(this, &QTreeWidget::itemExpanded, this, &SoNodescopeTreeView::resizeAllColumns);
     connect(this, &QTreeWidget::itemCollapsed, this, &SoNodescopeTreeView::resizeAllColumns);
-    connect(this, &SoNodescopeTreeView::newSceneGraph, this, &SoNodescopeTreeView::reset);
     initPreferences();
 }
 
@@ -83,6 +84,7 @@ void SoNodescopeTreeView::setSceneGraph(SoSelection* root)
     if (m_root)
         m_root->removeFinishCallback(picked, this);
     m_root = root;
+    m_topologyManager->setRoot(root);
     m_highlighter->setSelection(root);
     if (m_root)
         m_root->addFinishCallback(picked, this);
@@ -107,22 +109,17 @@ void SoNodescopeTreeView::reset(SoNode* node)
     const bool notifies = m_notifiesSelection;
     m_notifiesSelection = false;
     clear();
-    m_isBuiltOnDemand = node && !RowBuilder::makesAtMost(*node, MostRowsAtOnce);
+    m_isBuiltOnDemand = false;
+    emit statusMessage(QString());
     SoTreeViewItem* top = createItem(node, nullptr, nullptr, -1);
     if (top) {
         makePendingChildren(top);
-        if (m_filter->mask() != Nsc::All_categories)
-            m_filter->apply();
         setCurrentItem(top);
         top->setExpanded(true);
     }
     m_notifiesSelection = notifies;
     notifySelection(top);
     resizeColumnsNow();
-    emit statusMessage(
-        m_isBuiltOnDemand
-            ? tr("The graph has more than %L1 rows: rows are made when a row is opened.").arg(int(MostRowsAtOnce))
-            : QString());
 }
 
 SoTreeViewItem* SoNodescopeTreeView::createItem(SoNode* node, SoTreeViewItem* parentRow, SoField* sourceField,
@@ -130,30 +127,42 @@ SoTreeViewItem* SoNodescopeTreeView::createItem(SoNode* node, SoTreeViewItem* pa
 {
     if (!node)
         return nullptr;
-    const RowBuilder builder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
-    SoTreeViewItem* row = builder.build(*node, sourceField, parentRow);
+    SoTreeViewItem* row = rowBuilder(*node).build(*node, sourceField, parentRow);
     row->setIndex(position);
-    if (!parentRow) {
+    if (parentRow) {
+        int place = position;
+        if (position < 0) {
+            place = parentRow->childCount();
+            while (place > 0 && !parentRow->childRow(place - 1)->isCounted())
+                --place;
+        }
+        parentRow->insertRow(std::min(place, parentRow->childCount()), row);
+        if (!parentRow->isActive())
+            row->setDisabled(true); // as all below a hidden reference
+    } else {
         insertTopLevelItem(position < 0 ? topLevelItemCount() : position, row);
         row->setIndex(indexOfTopLevelItem(row));
         m_registry.enter(row);
-        return row;
     }
-    int place = position;
-    if (position < 0) {
-        place = parentRow->childCount();
-        while (place > 0 && !parentRow->childRow(place - 1)->isCounted())
-            --place;
-    }
-    parentRow->insertRow(std::min(place, parentRow->childCount()), row);
+    if (m_filter->mask() != Nsc::All_categories)
+        m_filter->applyTo(row);
     return row;
+}
+
+RowBuilder SoNodescopeTreeView::rowBuilder(SoNode& node)
+{
+    if (!m_isBuiltOnDemand && !RowBuilder::makesAtMost(node, MostRowsAtOnce)) {
+        m_isBuiltOnDemand = true;
+        emit statusMessage(
+            tr("The graph has more than %L1 rows: rows are made when a row is opened.").arg(int(MostRowsAtOnce)));
+    }
+    return RowBuilder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
 }
 
 void SoNodescopeTreeView::buildChildren(SoTreeViewItem* row)
 {
     row->deleteChildren(false);
-    const RowBuilder builder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
-    builder.buildChildren(*row);
+    rowBuilder(*row->node()).buildChildren(*row);
     row->setPendingChildren(false);
     if (m_filter->mask() != Nsc::All_categories)
         m_filter->applyTo(row);
@@ -163,15 +172,6 @@ void SoNodescopeTreeView::makePendingChildren(SoTreeViewItem* row)
 {
     if (row->hasPendingChildren())
         buildChildren(row);
-}
-
-void SoNodescopeTreeView::reloadFileRow(SoTreeViewItem* row)
-{
-    row->deleteChildren(true);
-    if (row->node()->isOfType(SoWWWInline::getClassTypeId()) && row->node()->getChildren()->getLength() < 2)
-        static_cast<SoWWWInline*>(row->node())->requestChildrenFromURL();
-    int position = 0;
-    forEachChildRowSource(*row->node(), [&](SoNode& child) { createItem(&child, row, nullptr, position++); });
 }
 
 SoTreeViewItem* SoNodescopeTreeView::rowForPath(const SoPath& path, int firstNode)
@@ -232,7 +232,18 @@ void SoNodescopeTreeView::reselectRow(SoTreeViewItem* row)
 {
     if (!row || !row->isActive())
         return;
+    const bool isCurrent = row == currentItem();
     revealRow(row);
+    if (isCurrent)
+        selectChange(row, row); // which making it current again does not tell
+}
+
+void SoNodescopeTreeView::makeCurrentSilently(SoTreeViewItem* row)
+{
+    const bool notifies = m_notifiesSelection;
+    m_notifiesSelection = false;
+    setCurrentItem(row);
+    m_notifiesSelection = notifies;
 }
 
 void SoNodescopeTreeView::notifySelection(SoTreeViewItem* row)
@@ -415,6 +426,7 @@ void SoNodescopeTreeView::clearBookmark()
 void SoNodescopeTreeView::initPreferences()
 {
     m_style.load();
+    m_topologyManager->setUpdateDelay(Update_delay);
     setColumnHidden(SoTreeViewItem::NameColumn, !m_style.showsNames());
     setColumnHidden(SoTreeViewItem::ReferenceCountColumn, !m_style.showsReferenceCounts());
     viewport()->update();

@@ -11,8 +11,10 @@
 
 class CategoryFilter;
 class ReferenceHiding;
+class RowBuilder;
 class RowHighlighter;
 class SoField;
+class SoGraphTopologyManager;
 class SoNode;
 class SoPath;
 class SoSelection;
@@ -48,12 +50,12 @@ public:
     void buildChildren(SoTreeViewItem* row);
     /** Makes the child rows of a row whose children are pending. */
     void makePendingChildren(SoTreeViewItem* row);
-    /** Reads the contents of a row that stands for a file or an inline node anew. */
-    void reloadFileRow(SoTreeViewItem* row);
     /** True when there were too many rows to make them at once. */
     bool isBuiltOnDemand() const { return m_isBuiltOnDemand; }
 
     NodeRowRegistry& rowRegistry() { return m_registry; }
+    /** What keeps the rows in step with the graph. */
+    SoGraphTopologyManager& topologyManager() { return *m_topologyManager; }
     const TreeStyle& style() const { return m_style; }
     using QTreeWidget::style;
     bool showsIgnoredRows() const { return m_showsIgnoredRows; }
@@ -76,8 +78,10 @@ public:
     void insertNode(const QString& typeName);
     /** Makes a row current and visible: all rows above it are expanded. */
     void revealRow(SoTreeViewItem* row);
-    /** Shows the row after a rebuild or a command: current, or highlighted in the 3D view. */
+    /** Makes a row current and visible after the current one went, unless it is hidden as a reference. */
     void reselectRow(SoTreeViewItem* row);
+    /** Makes a row current for the time of a change; nobody is told. */
+    void makeCurrentSilently(SoTreeViewItem* row);
     /** Marks the row's node in the 3D view, and nothing else. */
     void highlightRow(SoTreeViewItem* row);
     /** Makes the row current that stands for a picked path; clears the selection when there is none. */
@@ -129,6 +133,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
 
 private:
+    RowBuilder rowBuilder(SoNode& node);
     SoTreeViewItem* stepReference(bool forward);
     SoTreeViewItem* stepBookmark(bool forward);
     void refreshSelection();
@@ -143,6 +148,7 @@ private:
     std::unique_ptr<CategoryFilter> m_filter;
     std::unique_ptr<ReferenceHiding> m_references;
     std::unique_ptr<RowHighlighter> m_highlighter;
+    std::unique_ptr<SoGraphTopologyManager> m_topologyManager;
     bool m_shiftClicked = false;
     bool m_notifiesSelection = true;
     bool m_resizePending = false;

@@ -11,38 +11,38 @@
 #include <cstdlib>
 
 SoTreeViewItem::SoTreeViewItem(SoNode* node, SoField* sourceField, SoTreeViewItem* futureParent, SoBaseKit* kit)
-    : m_node(node), m_sourceField(sourceField)
+    : m_node(node), m_sourceField(sourceField), m_kit(kit)
 {
-    initialise(futureParent, kit);
+    initialise(futureParent);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidget* view, SoNode* node, SoField* sourceField, SoBaseKit* kit)
-    : QTreeWidgetItem(view), m_node(node), m_sourceField(sourceField)
+    : QTreeWidgetItem(view), m_node(node), m_sourceField(sourceField), m_kit(kit)
 {
-    initialise(nullptr, kit);
+    initialise(nullptr);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidgetItem* parent, SoNode* node, SoField* sourceField, SoBaseKit* kit)
-    : QTreeWidgetItem(parent), m_node(node), m_sourceField(sourceField)
+    : QTreeWidgetItem(parent), m_node(node), m_sourceField(sourceField), m_kit(kit)
 {
-    initialise(static_cast<SoTreeViewItem*>(parent), kit);
+    initialise(static_cast<SoTreeViewItem*>(parent));
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidget* view, QTreeWidgetItem* preceding, SoNode* node, SoField* sourceField,
                                SoBaseKit* kit)
-    : QTreeWidgetItem(view, preceding), m_node(node), m_sourceField(sourceField)
+    : QTreeWidgetItem(view, preceding), m_node(node), m_sourceField(sourceField), m_kit(kit)
 {
-    initialise(nullptr, kit);
+    initialise(nullptr);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidgetItem* parent, QTreeWidgetItem* preceding, SoNode* node, SoField* sourceField,
                                SoBaseKit* kit)
-    : QTreeWidgetItem(parent, preceding), m_node(node), m_sourceField(sourceField)
+    : QTreeWidgetItem(parent, preceding), m_node(node), m_sourceField(sourceField), m_kit(kit)
 {
-    initialise(static_cast<SoTreeViewItem*>(parent), kit);
+    initialise(static_cast<SoTreeViewItem*>(parent));
 }
 
-void SoTreeViewItem::initialise(const SoTreeViewItem* parent, SoBaseKit* kit)
+void SoTreeViewItem::initialise(const SoTreeViewItem* parent)
 {
     m_inFieldSubtree = m_sourceField || (parent && parent->m_inFieldSubtree);
     m_isIgnored = false;
@@ -51,8 +51,7 @@ void SoTreeViewItem::initialise(const SoTreeViewItem* parent, SoBaseKit* kit)
     m_isCounted = true;
     m_hasPendingChildren = false;
     m_childrenAreNumbered = false;
-    if (kit)
-        m_part = std::make_unique<NodekitPart>(kit, m_node);
+    m_marksReferences = false;
     // Leaves are marked, so that the view does not remember each of them as expanded.
     setChildIndicatorPolicy(DontShowIndicator);
     if (auto* view = static_cast<SoNodescopeTreeView*>(treeWidget()))
@@ -76,19 +75,29 @@ SoNode* SoTreeViewItem::parentNode() const
     return row ? row->node() : nullptr;
 }
 
+bool SoTreeViewItem::isPart() const
+{
+    return m_kit && partRecord().isPart();
+}
+
+int SoTreeViewItem::partNumber() const
+{
+    return m_kit ? partRecord().number() : -1;
+}
+
 SbName SoTreeViewItem::parentPartName() const
 {
-    return m_part ? m_part->parentName() : SbName();
+    return m_kit ? partRecord().parentName() : SbName();
 }
 
 SbName SoTreeViewItem::partName() const
 {
-    return isPart() ? m_part->partName : SbName();
+    return m_kit ? partRecord().name() : SbName();
 }
 
 bool SoTreeViewItem::isPublicPart() const
 {
-    return m_part && m_part->isPublic();
+    return m_kit && partRecord().isPublic();
 }
 
 int SoTreeViewItem::referenceCount() const
@@ -109,12 +118,18 @@ void SoTreeViewItem::removeChild(QTreeWidgetItem* child)
         return;
     if (auto* view = static_cast<SoNodescopeTreeView*>(treeWidget()))
         view->rowRegistry().leave(row);
+    takeRow(row->position());
+}
+
+SoTreeViewItem* SoTreeViewItem::takeRow(int place)
+{
+    auto* row = static_cast<SoTreeViewItem*>(takeChild(place));
     if (row->m_isIgnored)
         --m_ignoredChildren;
-    takeChild(row->position());
     renumberChildrenLater();
     if (childCount() == 0)
         setChildIndicatorPolicy(DontShowIndicator);
+    return row;
 }
 
 void SoTreeViewItem::addChild(QTreeWidgetItem* child)
@@ -150,22 +165,23 @@ void SoTreeViewItem::appendRows(const QList<QTreeWidgetItem*>& rows)
 
 void SoTreeViewItem::deleteChildren(bool keepFieldRows)
 {
-    if (!keepFieldRows) {
-        const QList<QTreeWidgetItem*> rows = takeChildren();
-        qDeleteAll(rows);
+    int count = childCount();
+    while (keepFieldRows && count > 0 && childRow(count - 1)->fromField())
+        --count;
+    deleteChildren(0, count);
+}
+
+void SoTreeViewItem::deleteChildren(int first, int count)
+{
+    if (first == 0 && count == childCount()) {
+        qDeleteAll(takeChildren());
         m_ignoredChildren = 0;
-    } else {
-        for (int i = childCount() - 1; i >= 0; --i) {
-            if (childRow(i)->fromField())
-                continue;
-            if (childRow(i)->m_isIgnored)
-                --m_ignoredChildren;
-            delete takeChild(i);
-        }
-    }
-    renumberChildrenLater();
-    if (childCount() == 0)
+        renumberChildrenLater();
         setChildIndicatorPolicy(DontShowIndicator);
+        return;
+    }
+    for (int place = first + count - 1; place >= first; --place)
+        delete takeRow(place);
 }
 
 void SoTreeViewItem::setPendingChildren(bool isPending)
@@ -349,10 +365,10 @@ int SoTreeViewItem::compareSiblingOrder(const SoTreeViewItem* a, const SoTreeVie
 
 void SoTreeViewItem::updateReferenceIcon(bool show)
 {
-    const bool isMarked = show && referenceCount() >= 2 && icon(NameColumn).isNull();
-    if (!isMarked && icon(ReferenceIconColumn).isNull())
+    if (m_marksReferences == show)
         return;
-    setIcon(ReferenceIconColumn, isMarked ? BuiltInImages::icon(QStringLiteral("ArrowShort")) : QIcon());
+    m_marksReferences = show;
+    emitDataChanged();
 }
 
 QVariant SoTreeViewItem::displayText(int column) const
@@ -360,8 +376,10 @@ QVariant SoTreeViewItem::displayText(int column) const
     switch (column) {
     case TypeColumn:
         return RowTexts::typeName(m_node->getTypeId());
-    case NameColumn:
-        return RowTexts::name(isPart() ? m_part->partName : m_node->getName());
+    case NameColumn: {
+        const SbName part = partName();
+        return RowTexts::name(part.isEmpty() ? m_node->getName() : part);
+    }
     case ReferenceCountColumn:
         return QString::number(referenceCount());
     default:
@@ -379,13 +397,16 @@ QVariant SoTreeViewItem::data(int column, int role) const
             const QPixmap* pixmap = NscNodeInfo::pixmap(m_node);
             if (pixmap && !pixmap->isNull())
                 return RowTexts::icon(*pixmap);
+        } else if (column == ReferenceIconColumn) {
+            if (m_marksReferences && referenceCount() >= 2 && icon(NameColumn).isNull())
+                return BuiltInImages::icon(QStringLiteral("ArrowShort"));
         } else if (column == BookmarkColumn) {
             return m_isBookmarked ? QIcon(QStringLiteral(":/Nodescope_icons/Icons/bookmark.png")) : QIcon();
         }
         break;
     case Qt::FontRole:
         if (const auto* view = static_cast<const SoNodescopeTreeView*>(treeWidget())) {
-            const bool isFieldRow = m_part ? !m_part->isPart && fromField() : m_inFieldSubtree;
+            const bool isFieldRow = m_kit ? fromField() && !isPart() : m_inFieldSubtree;
             return isFieldRow && view->style().marksFieldRows() ? view->style().fieldFont() : view->style().typeFont();
         }
         break;

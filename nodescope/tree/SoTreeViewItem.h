@@ -6,8 +6,6 @@
 
 #include <QTreeWidgetItem>
 
-#include <memory>
-
 class SbName;
 class SoBaseKit;
 class SoField;
@@ -45,15 +43,16 @@ public:
     virtual SoNode* node() const { return m_node; }
     /** The parent row's node; null for a top-level row. */
     virtual SoNode* parentNode() const;
-    virtual bool hasPartRecord() const { return m_part != nullptr; }
-    virtual bool isPart() const { return m_part && m_part->isPart; }
+    /** True below a nodekit, whose catalog then describes the node. */
+    virtual bool hasPartRecord() const { return m_kit != nullptr; }
+    virtual bool isPart() const;
     /** Number in the kit's catalog; -1 when the node is no part. */
-    virtual int partNumber() const { return isPart() ? m_part->partNumber : -1; }
+    virtual int partNumber() const;
     virtual SbName parentPartName() const;
     virtual SbName partName() const;
     virtual bool isPublicPart() const;
-    virtual SoBaseKit* kit() const { return m_part ? m_part->kit : nullptr; }
-    /** Marks the row of a shared node with an arrow, or takes the mark away. */
+    virtual SoBaseKit* kit() const { return m_kit; }
+    /** Marks the row with an arrow for as long as its node is shared, or never. */
     virtual void updateReferenceIcon(bool show);
 
     /** An ignored row stands for a hidden reference: it is grey and not counted among its siblings. */
@@ -78,7 +77,8 @@ public:
     bool fromField() const { return m_sourceField != nullptr; }
     /** True when this row or a row above it was reached through a field. */
     bool inFieldSubtree() const { return m_inFieldSubtree; }
-    const NodekitPart* partRecord() const { return m_part.get(); }
+    /** What the kit says of the node; to be asked only of a row that has a part record. */
+    NodekitPart partRecord() const { return NodekitPart(*m_kit, *m_node); }
 
     /** The rows of the same node while its references are hidden; null otherwise. */
     const RowList* references() const { return m_references; }
@@ -102,6 +102,8 @@ public:
     void appendRows(const QList<QTreeWidgetItem*>& rows);
     /** Deletes the child rows, or only those that are no field rows. */
     void deleteChildren(bool keepFieldRows);
+    /** Deletes @p count child rows from a place on. */
+    void deleteChildren(int first, int count);
     /**
      * The row that shows @p node through @p field at the index-th counted place, -1 for the last; null for none.
      * @param ignored  receives whether that row is ignored
@@ -122,15 +124,16 @@ public:
 private:
     friend class RowList;
 
-    void initialise(const SoTreeViewItem* parent, SoBaseKit* kit);
+    void initialise(const SoTreeViewItem* parent);
     bool viewShowsIgnored() const;
     void numberChildren() const;
+    SoTreeViewItem* takeRow(int place);
     QVariant displayText(int column) const;
 
     const RowList* m_references = nullptr;
     SoNode* m_node;
     SoField* m_sourceField;
-    std::unique_ptr<NodekitPart> m_part;
+    SoBaseKit* m_kit;
     RowList* m_list = nullptr; ///< the registry's list of this row; null while the registry does not keep it
     SoTreeViewItem* m_nextInList = nullptr;
     SoTreeViewItem* m_previousInList = nullptr;
@@ -143,5 +146,6 @@ private:
     bool m_isActive : 1;
     bool m_isCounted : 1;
     bool m_hasPendingChildren : 1;
+    bool m_marksReferences : 1;
     mutable bool m_childrenAreNumbered : 1;
 };

@@ -27,13 +27,6 @@ bool standsAmong(const SoNode* node, const SoTreeViewItem* row)
     return false;
 }
 
-bool hasRowsBelow(SoNode& node)
-{
-    bool hasAny = false;
-    forEachRowSource(node, [&hasAny](SoNode&, SoField*) { hasAny = true; });
-    return hasAny;
-}
-
 class RowCounter {
 public:
     explicit RowCounter(qint64 most) : m_most(most) {}
@@ -96,13 +89,12 @@ void RowBuilder::fill(SoTreeViewItem& row, const SoTreeViewItem* above, const So
 {
     // The scene as a whole is held by whoever shows it; that does not make it a shared node.
     const bool isTop = !above && !aboveInView;
-    if (!isTop && row.referenceCount() >= 2)
-        row.updateReferenceIcon(true);
+    row.updateReferenceIcon(!isTop);
     // A graph that contains itself would go on for ever.
     if (standsAmong(row.node(), above) || standsAmong(row.node(), aboveInView))
         return;
     if (m_children == Children::OnDemand) {
-        if (hasRowsBelow(*row.node()))
+        if (hasRowSources(*row.node()))
             row.setPendingChildren(true);
         return;
     }

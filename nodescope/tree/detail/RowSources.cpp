@@ -13,6 +13,9 @@
 #include <vexel/nodes/SoUnknownNode.h>
 #include <vexel/nodes/SoWWWInline.h>
 
+#include <algorithm>
+#include <deque>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -21,7 +24,32 @@ const bool Shows_internal_children = SoPreferences::getBool("NODESCOPE_SHOW_INTE
 const bool Shows_all_child_lists =
     SoPreferences::getBool("VXRU_LAUNCH_NODESCOPE", false) || SoPreferences::getBool("ART_LAUNCH_NODESCOPE", false);
 
-bool holdsNodes(const SoField& field)
+std::vector<int> findNodeFields(const SoNode& node)
+{
+    std::vector<int> found;
+    const SoFieldData& data = node.getFieldData();
+    for (int i = 0; i < data.getNumFields(); ++i) {
+        if (makesRows(*data.getField(&node, i)))
+            found.push_back(i);
+    }
+    return found;
+}
+
+// The same for all nodes of a class, so it is found out once.
+const std::vector<int>& knownNodeFields(const SoNode& node)
+{
+    static std::deque<std::optional<std::vector<int>>> known; // whose elements stay in place while it grows
+    const std::size_t key = node.getTypeId().getKey();
+    if (key >= known.size())
+        known.resize(key + 1);
+    if (!known[key])
+        known[key] = findNodeFields(node);
+    return *known[key];
+}
+
+} // namespace
+
+bool makesRows(const SoField& field)
 {
     const SoField::FieldType kind = field.getFieldType();
     if (kind == SoField::PRIVATE || kind == SoField::INTERNAL_PART || kind == SoField::INTERNAL)
@@ -31,51 +59,46 @@ bool holdsNodes(const SoField& field)
            type == SoMFUniformShaderParameter::getClassTypeId();
 }
 
-// Which fields of a node hold nodes: the same for all nodes of a class, so it is found out once.
-const std::vector<int>& nodeFields(const SoNode& node)
+int firstChildRowSource(const SoNode& node)
 {
-    static std::vector<std::vector<int>> known;
-    static std::vector<bool> isKnown;
-    const std::size_t key = node.getTypeId().getKey();
-    if (key >= known.size()) {
-        known.resize(key + 1);
-        isKnown.resize(key + 1);
-    }
-    const bool ownFields = node.isOfType(SoUnknownNode::getClassTypeId());
-    if (!isKnown[key] || ownFields) {
-        known[key].clear();
-        const SoFieldData& data = node.getFieldData();
-        for (int i = 0; i < data.getNumFields(); ++i) {
-            if (holdsNodes(*data.getField(&node, i)))
-                known[key].push_back(i);
-        }
-        isKnown[key] = true;
-    }
-    return known[key];
+    // The first child of an inline node belongs to the node itself.
+    return !Shows_internal_children && node.isOfType(SoWWWInline::getClassTypeId()) ? 1 : 0;
 }
 
-} // namespace
-
-void forEachChildRowSource(SoNode& node, const std::function<void(SoNode&)>& visit)
+int childRowSourceCount(const SoNode& node)
 {
     const SoChildList* children = node.getChildren();
     if (!children)
-        return;
-    const bool isInline = node.isOfType(SoWWWInline::getClassTypeId());
-    const bool showsChildren = Shows_internal_children || Shows_all_child_lists || isInline ||
+        return 0;
+    const bool showsChildren = Shows_internal_children || Shows_all_child_lists ||
+                               node.isOfType(SoWWWInline::getClassTypeId()) ||
                                node.isOfType(SoGroup::getClassTypeId()) || node.isOfType(SoFile::getClassTypeId());
-    if (!showsChildren)
-        return;
-    // The first child of an inline node belongs to the node itself.
-    for (int i = isInline && !Shows_internal_children ? 1 : 0; i < children->getLength(); ++i)
-        visit(*(*children)[i]);
+    return showsChildren ? std::max(children->getLength() - firstChildRowSource(node), 0) : 0;
+}
+
+bool hasRowSources(SoNode& node)
+{
+    bool hasAny = false;
+    forEachRowSource(node, [&hasAny](SoNode&, SoField*) { hasAny = true; });
+    return hasAny;
+}
+
+void forEachChildRowSource(SoNode& node, const std::function<void(SoNode&)>& visit)
+{
+    const int count = childRowSourceCount(node);
+    const int first = firstChildRowSource(node);
+    for (int i = 0; i < count; ++i)
+        visit(*(*node.getChildren())[first + i]);
 }
 
 void forEachRowSource(SoNode& node, const std::function<void(SoNode&, SoField*)>& visit)
 {
     forEachChildRowSource(node, [&visit](SoNode& child) { visit(child, nullptr); });
 
-    const std::vector<int> fields = nodeFields(node);
+    std::vector<int> ownFields;
+    if (node.isOfType(SoUnknownNode::getClassTypeId()))
+        ownFields = findNodeFields(node); // each has fields of its own
+    const std::vector<int>& fields = ownFields.empty() ? knownNodeFields(node) : ownFields;
     if (fields.empty())
         return;
     SoBaseKit* kit = node.isOfType(SoBaseKit::getClassTypeId()) ? static_cast<SoBaseKit*>(&node) : nullptr;
@@ -87,7 +110,7 @@ void forEachRowSource(SoNode& node, const std::function<void(SoNode&, SoField*)>
                 continue;
             auto& held = *static_cast<SoNode*>(base);
             // Nested parts are shown below the parts that they hang from; they and all behind them make no rows here.
-            if (kit && NodekitPart::isNested(kit, &held))
+            if (kit && NodekitPart(*kit, held).isNested())
                 return;
             visit(held, field);
         }

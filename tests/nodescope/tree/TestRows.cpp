@@ -71,7 +71,7 @@ TEST_F(Rows, ShowNodekitPartsByName)
             topSeparator = part;
     }
     ASSERT_TRUE(topSeparator);
-    EXPECT_EQ(topSeparator->partRecord()->kind, NodekitPart::TopSeparator);
+    EXPECT_EQ(topSeparator->partRecord().kind(), NodekitPart::TopSeparator);
     EXPECT_FALSE(topSeparator->isPublicPart());
     EXPECT_NE(rows().find(" shape"), std::string::npos) << rows();
 }

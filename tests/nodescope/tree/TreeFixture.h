@@ -47,7 +47,6 @@ protected:
         selection->removeAllChildren();
         selection->addChild(root);
         root->unref();
-        emit view->newSceneGraph(root);
     }
 
     SoTreeViewItem* top() const { return static_cast<SoTreeViewItem*>(view->topLevelItem(0)); }
