@@ -27,9 +27,7 @@ bool KeyMatcher::comparesNames() const
 
 bool KeyMatcher::matches(const SoTreeViewItem& row) const
 {
-    if (comparesNames())
-        return matchesName(row.isPart() ? row.partName() : row.node()->getName());
-    return matchesNode(*row.node());
+    return matches(*row.node(), row.kit());
 }
 
 bool KeyMatcher::matches(SoNode& node, SoBaseKit* kit) const
@@ -37,8 +35,8 @@ bool KeyMatcher::matches(SoNode& node, SoBaseKit* kit) const
     if (!comparesNames())
         return matchesNode(node);
     if (kit) {
-        if (const NodekitPart part(kit, &node); part.isPart)
-            return matchesName(part.partName);
+        if (const NodekitPart part(*kit, node); part.isPart())
+            return matchesName(part.name());
     }
     return matchesName(node.getName());
 }
