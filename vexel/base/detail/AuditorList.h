@@ -39,11 +39,19 @@ public:
     template <class Visit>
     void forEach(Visit&& visit) const
     {
-        if (!isLarge()) {
-            if (m_data)
-                visit(pointerOf(m_data), typeOf(m_data));
-            return;
-        }
+        if (isLarge())
+            forEachOfLarge(visit);
+        else if (m_data)
+            visit(pointerOf(m_data), typeOf(m_data));
+    }
+
+private:
+    struct Large;
+
+    // Not inlined: the way of one listener, which most changes take all through the graph, stays short without it.
+    template <class Visit>
+    [[gnu::noinline]] void forEachOfLarge(Visit& visit) const
+    {
         // A listener may add and remove listeners, itself included, so the walk runs over a copy and asks again once
         // something changed.
         const std::vector<std::uintptr_t> snapshot = keys();
@@ -54,9 +62,6 @@ public:
             visit(pointerOf(key), typeOf(key));
         }
     }
-
-private:
-    struct Large;
 
     static constexpr std::uintptr_t LargeTag = 7;
     static std::uintptr_t keyOf(void* auditor, SoAuditorType type)
