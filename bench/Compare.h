@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <chrono>
 #include <functional>
+#include <vector>
 
 inline double secondsOf(const std::function<void()>& work)
 {
@@ -12,6 +13,13 @@ inline double secondsOf(const std::function<void()>& work)
     const auto start = Clock::now();
     work();
     return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+inline void reportRatio(benchmark::State& state, double ours, double baseline)
+{
+    state.counters["ratio"] = ours / baseline;
+    state.counters["ours_ms"] = ours * 1e3;
+    state.counters["baseline_ms"] = baseline * 1e3;
 }
 
 /**
@@ -34,7 +42,27 @@ inline void compare(
         }
         state.SetIterationTime(best);
     }
-    state.counters["ratio"] = best / bestBaseline;
-    state.counters["ours_ms"] = best * 1e3;
-    state.counters["baseline_ms"] = bestBaseline * 1e3;
+    reportRatio(state, best, bestBaseline);
+}
+
+/**
+ * Times ours and the baseline in turns, once in each iteration, and reports the ratio of their medians: for work that
+ * takes as long as a frame, where the machine has time to do something else in between.
+ */
+inline void compareMedians(benchmark::State& state, const std::function<void()>& ours,
+                           const std::function<void()>& baseline)
+{
+    std::vector<double> times;
+    std::vector<double> baselineTimes;
+    for (auto _ : state) {
+        baselineTimes.push_back(secondsOf(baseline));
+        times.push_back(secondsOf(ours));
+        state.SetIterationTime(times.back());
+    }
+    const auto median = [](std::vector<double>& values) {
+        const auto middle = values.begin() + std::ptrdiff_t(values.size() / 2);
+        std::nth_element(values.begin(), middle, values.end());
+        return *middle;
+    };
+    reportRatio(state, median(times), median(baselineTimes));
 }

@@ -5,6 +5,7 @@
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 
 #include <QApplication>
+#include <bench/Compare.h>
 #include <benchmark/benchmark.h>
 #include <memory>
 #include <vector>
@@ -22,38 +23,45 @@ private:
     long& m_count;
 };
 
-void undoRedoOnBareStack(benchmark::State& state)
+void UndoAndRedo(benchmark::State& state)
 {
+    constexpr int Pairs = 1000;
     long count = 0;
-    std::vector<std::unique_ptr<NscCommand>> commands;
-    for (int i = 0; i < state.range(0); ++i)
-        commands.push_back(std::make_unique<CountingCommand>(count));
-    std::size_t index = commands.size();
-    for (auto _ : state) {
-        commands[--index]->undo();
-        commands[index++]->redo();
-        benchmark::DoNotOptimize(count);
-    }
-}
-BENCHMARK(undoRedoOnBareStack)->Arg(1)->Arg(100000);
-
-void undoRedoWithTheActions(benchmark::State& state)
-{
+    std::vector<std::unique_ptr<NscCommand>> bareStack;
     SoCommandManager manager;
     SoNodescopeMainFrame frame;
     frame.setUp(&manager, SoNodescopeMainFrame::Hosting::Standalone);
     manager.initialize(&frame);
     frame.show();
-    long count = 0;
-    for (int i = 0; i < state.range(0); ++i)
+    for (int i = 0; i < state.range(0); ++i) {
         manager.addCommand(new CountingCommand(count));
-    for (auto _ : state) {
-        manager.undo();
-        manager.redo();
-        benchmark::DoNotOptimize(count);
+        bareStack.push_back(std::make_unique<CountingCommand>(count));
     }
+    std::size_t top = bareStack.size();
+    compare(
+        state,
+        [&] {
+            for (int i = 0; i < Pairs; ++i) {
+                manager.undo();
+                manager.redo();
+            }
+        },
+        [&] {
+            for (int i = 0; i < Pairs; ++i) {
+                bareStack[--top]->undo();
+                bareStack[top++]->redo();
+                benchmark::DoNotOptimize(count);
+            }
+        });
+    state.counters["us_per_command"] = state.counters["ours_ms"] * 1e3 / (2 * Pairs);
 }
-BENCHMARK(undoRedoWithTheActions)->Arg(1)->Arg(100000);
+BENCHMARK(UndoAndRedo)
+    ->ArgName("commands")
+    ->Arg(1)
+    ->Arg(100000)
+    ->Iterations(1)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
 
 } // namespace
 

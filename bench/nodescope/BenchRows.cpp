@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <malloc.h>
 
 #include <QApplication>
 #include <QTreeWidget>
@@ -87,6 +88,37 @@ void BuildRows(benchmark::State& state)
     root->unref();
 }
 
+/** Bytes that the process holds more of after the work. */
+std::size_t bytesTakenBy(const std::function<void()>& work)
+{
+    const auto inUse = [] {
+        const struct mallinfo2 info = mallinfo2();
+        return info.uordblks + info.hblkhd;
+    };
+    const std::size_t before = inUse();
+    work();
+    return inUse() - before;
+}
+
+void RowMemory(benchmark::State& state)
+{
+    SoDB::init();
+    const int numRows = int(state.range(0));
+    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoNodescopeTreeView view;
+    QTreeWidget bare;
+    bare.setColumnCount(5);
+    for (auto _ : state) {
+        const auto ours = double(bytesTakenBy([&] { view.reset(root); })) / numRows;
+        const auto baseline = double(bytesTakenBy([&] { buildBareRows(bare, root); })) / numRows;
+        state.counters["ratio"] = ours / baseline;
+        state.counters["bytes_per_row"] = ours;
+        state.counters["baseline_bytes_per_row"] = baseline;
+    }
+    view.reset(nullptr);
+    root->unref();
+}
+
 void ExpandAll(benchmark::State& state)
 {
     SoDB::init();
@@ -143,6 +175,11 @@ BENCHMARK(BuildRows)
     ->ArgNames({"rows", "flat"})
     ->Iterations(1)
     ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(RowMemory)
+    ->ArgsProduct({{10000, 1000000}, {0, 1}})
+    ->ArgNames({"rows", "flat"})
+    ->Iterations(1)
     ->Unit(benchmark::kMillisecond);
 BENCHMARK(ExpandAll)
     ->ArgsProduct({{1000000}, {0, 1}})

@@ -5,12 +5,12 @@
 #include "BareDrawing.h"
 #include "BenchShapes.h"
 
-#include <chrono>
 #include <cstdlib>
 #include <functional>
 #include <iostream>
 #include <memory>
 
+#include <bench/Compare.h>
 #include <vexel/render/DrawList.h>
 #include <vexel/render/GLContext.h>
 #include <vexel/render/OffscreenTarget.h>
@@ -95,40 +95,25 @@ double coverage(const OffscreenTarget& target)
     return static_cast<double>(covered) / (static_cast<double>(Width) * Height);
 }
 
-/** Alternates the two, so that a drifting machine drifts for both, and reports the ratio of their medians. */
+/** Compares two ways to draw the same picture. */
 void compare(benchmark::State& state, const OffscreenTarget& target, const std::function<void()>& baseline,
              const std::function<void()>& ours)
 {
-    std::vector<double> times[2];
-    const std::function<void()>* const runs[] = {&baseline, &ours};
     glViewport(0, 0, Width, Height); // a context without a surface starts with an empty one
-    double covered[2];
-    for (int which = 0; which < 2; ++which) {
-        (*runs[which])();
-        covered[which] = coverage(target);
-    }
-    if (covered[0] < 0.1 || std::abs(covered[0] - covered[1]) > 0.01) {
+    baseline();
+    const double baselineCoverage = coverage(target);
+    ours();
+    if (baselineCoverage < 0.1 || std::abs(baselineCoverage - coverage(target)) > 0.01) {
         state.SkipWithError("The two do not draw the same picture.");
         return;
     }
-    for (auto _ : state) {
-        for (int which = 0; which < 2; ++which) {
-            const auto start = std::chrono::steady_clock::now();
-            (*runs[which])();
+    const auto finished = [](const std::function<void()>& draw) {
+        return [&draw] {
+            draw();
             glFinish();
-            times[which].push_back(std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count());
-        }
-        state.SetIterationTime(times[1].back());
-    }
-    const auto median = [](std::vector<double>& values) {
-        std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-        return values[values.size() / 2];
+        };
     };
-    const double base = median(times[0]);
-    const double own = median(times[1]);
-    state.counters["baseline_ms"] = base * 1e3;
-    state.counters["ours_ms"] = own * 1e3;
-    state.counters["ratio"] = own / base;
+    compareMedians(state, finished(ours), finished(baseline));
 }
 
 void MillionTriangles(benchmark::State& state)
