@@ -84,7 +84,7 @@ private:
             const QString name = attribute("name");
             std::vector<Configuration::Active> active;
             forEachChild("activeExtension", [&] { active.push_back(readActive()); });
-            m_profiles.insert(name, std::move(active));
+            m_profiles.insert(name, active);
         });
     }
 

@@ -61,7 +61,7 @@ private:
     T read(const char* suffix, const T& defaultValue, Read readTyped)
     {
         bool exists = false;
-        const T value = (m_store.*readTyped)(m_prefix + suffix, defaultValue, &exists);
+        T value = (m_store.*readTyped)(m_prefix + suffix, defaultValue, &exists);
         m_isComplete = m_isComplete && exists;
         return value;
     }
