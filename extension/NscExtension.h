@@ -6,6 +6,8 @@
 
 #include <QObject>
 
+class QMenu;
+
 /**
  * Something that a plug-in adds to the inspector: a field editor, a panel, a menu.
  *
@@ -36,6 +38,10 @@ public:
     virtual void show() = 0;
     virtual void hide() = 0;
     ///@}
+
+    /** A menu for a node of one of the types that the extension is registered for, shown as part of the node's context
+     * menu in the tree; asked for each time. The extension owns it. By default null: none. */
+    virtual QMenu* getNodeMenu();
 
 private:
     Info m_info;

@@ -1,6 +1,5 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
-#include "ReferenceActions.h"
 #include "SoNodescopeAddDialog.h"
 
 #include <nodescope/mainframe/SceneFileHandler.h>
@@ -29,11 +28,8 @@ void SoCommandManager::initialize(SoNodescopeMainFrame* frame)
 
 void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
 {
-    m_referenceActions.reset();
     delete m_addDialog; // it serves one tree
     m_treeView = treeView;
-    if (m_treeView && m_frame)
-        m_referenceActions = std::make_unique<ReferenceActions>(*m_frame, *m_treeView);
 }
 
 bool SoCommandManager::isModified() const

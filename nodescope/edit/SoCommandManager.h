@@ -5,13 +5,10 @@
 #include <QObject>
 #include <QPointer>
 
-#include <memory>
-
 class CommandHistory;
 class NscCommand;
 class NscFindDialog;
 class QTreeWidgetItem;
-class ReferenceActions;
 class SoNodescopeAddDialog;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
@@ -89,6 +86,5 @@ private:
     QPointer<NscFindDialog> m_findDialog;
     QPointer<SoNodescopeAddDialog> m_addDialog;
     QPointer<SoNodescopeTreeView> m_treeView;
-    std::unique_ptr<ReferenceActions> m_referenceActions;
     CommandHistory* m_history;
 };

@@ -59,7 +59,7 @@ const std::vector<ActionRow>& actionTable()
         {Id::ExploreAll, TEXT("Explore &all"), nullptr, nullptr, nullptr, nullptr, Row::Plain},
         {Id::FilterDialog, TEXT("&Filter..."), nullptr, nullptr, nullptr, nullptr, Row::Plain},
         {Id::Insert, TEXT("&Insert..."), nullptr, nullptr, nullptr, nullptr, Row::Plain},
-        {Id::InsertClipboard, TEXT("Insert &clipboard"), nullptr, nullptr, nullptr, nullptr, Row::Plain},
+        {Id::InsertClipboard, TEXT("Insert &clipboard"), nullptr, nullptr, "pasteNode()", nullptr, Row::Plain},
         {Id::SetIgnoredEnable, TEXT("&Set Ignored/Enable"), nullptr, nullptr, "ignoreEnable()", nullptr, Row::StartsDisabled},
         {Id::ShowAllReferences, TEXT("Show &All References"), nullptr, "F4", "showAllReferences()", nullptr, Row::StartsDisabled},
         {Id::HideAllReferences, TEXT("&Hide All References"), nullptr, "Ctrl+F4", "removeAllReferences()", nullptr, Row::StartsDisabled},

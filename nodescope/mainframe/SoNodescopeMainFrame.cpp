@@ -5,6 +5,8 @@
 #include "detail/MainFrameBuilder.h"
 #include "detail/WindowGeometry.h"
 
+#include <nodescope/preferences/SoNodescopeStateManager.h>
+
 #include <QAction>
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -35,6 +37,7 @@ void SoNodescopeMainFrame::setUp(QObject* commandManager, Hosting hosting)
     resize(Size_when_not_maximised);
     MainFrameBuilder(*this).build();
     updateSceneFileActions();
+    SoNodescopeStateManager::init();
 }
 
 void SoNodescopeMainFrame::setSceneFiles(SceneFileHandler* sceneFiles)

@@ -5,7 +5,9 @@
 #include "detail/PanelDocks.h"
 
 #include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/preferences/SoNodescopeStateManager.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
+#include <nodescope/preferences/SoTreeViewState.h>
 #include <nodescope/shell/NscServicesImpl.h>
 #include <nodescope/shell/NscShellImpl.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
@@ -18,6 +20,7 @@
 #include <vexel/viewer/SoQtExaminerViewer.h>
 #include <vexel/viewer/SoSceneManager.h>
 
+#include <QContextMenuEvent>
 #include <QStatusBar>
 
 namespace {
@@ -26,6 +29,8 @@ constexpr int Tree_width = 420;
 const SbColorRGBA Background(0.24f, 0.27f, 0.31f, 1); ///< dark and bright things are both seen before it
 
 SoNodescopeViewer* instance = nullptr;
+
+const QString Tree_state = QStringLiteral("TreeViewState");
 
 } // namespace
 
@@ -56,6 +61,7 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     connect(m_treeView, &SoNodescopeTreeView::rowSelected, this, &SoNodescopeViewer::selectNode);
     connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
             [bar = m_frame.statusBar()](const QString& text) { bar->showMessage(text); });
+    registerTreeState();
     m_frame.setSceneFiles(&m_sceneFiles);
     m_services.getCommandManager()->setTreeView(m_treeView);
 }
@@ -99,6 +105,15 @@ void SoNodescopeViewer::makeExaminer()
     }
 }
 
+void SoNodescopeViewer::registerTreeState()
+{
+    auto* const state = new SoTreeViewState(*m_treeView, m_frame, *m_services.getCommandManager());
+    SoNodescopeStateManager::registerState(Tree_state, state);
+    connect(m_treeView, &SoNodescopeTreeView::focusReceived, this,
+            [] { SoNodescopeStateManager::setCurrentState(Tree_state); });
+    connect(m_treeView, &SoNodescopeTreeView::contextMenuRequested, state, &SoTreeViewState::contextMenu);
+}
+
 void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
 {
     if (resetCommands)
@@ -112,6 +127,7 @@ void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
     if (!root)
         return;
     m_selection->addChild(root);
+    SoNodescopeStateManager::setCurrentState(Tree_state);
     m_selection->deselectAll();
     if (m_examiner)
         m_examiner->setSceneGraph(m_selection);

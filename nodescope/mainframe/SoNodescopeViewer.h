@@ -48,6 +48,7 @@ private:
 
     void makePanels();
     void makeExaminer();
+    void registerTreeState();
     void selectNode(SoTreeViewItem* row);
 
     SoNodescopeMainFrame& m_frame;

@@ -17,10 +17,9 @@
 #include <vexel/base/SoPreferences.h>
 #include <vexel/nodes/SoSelection.h>
 
+#include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QHeaderView>
-#include <QKeyEvent>
-#include <QMenu>
 #include <QTimer>
 
 #include <algorithm>
@@ -284,12 +283,8 @@ void SoNodescopeTreeView::onItemClicked(QTreeWidgetItem* item, int)
 
 void SoNodescopeTreeView::onCustomContextMenu(const QPoint& place)
 {
-    SoTreeViewItem* row = asRow(itemAt(place));
-    if (!row || row->isDisabled())
-        return;
-    QMenu menu(this);
-    menu.addAction(tr("Expand All"), this, [this, row] { expandBelow(row); });
-    menu.exec(viewport()->mapToGlobal(place));
+    QContextMenuEvent event(QContextMenuEvent::Other, place, viewport()->mapToGlobal(place));
+    emit contextMenuRequested(&event);
 }
 
 void SoNodescopeTreeView::resizeAllColumns()
@@ -438,6 +433,12 @@ void SoNodescopeTreeView::setPreferences()
     initPreferences();
 }
 
+void SoNodescopeTreeView::focusInEvent(QFocusEvent* event)
+{
+    QTreeWidget::focusInEvent(event);
+    emit focusReceived();
+}
+
 void SoNodescopeTreeView::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Asterisk) {
@@ -453,6 +454,8 @@ void SoNodescopeTreeView::keyReleaseEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_F1 && currentRow())
         QDesktopServices::openUrl(ClassReference::page(RowTexts::typeName(currentRow()->node()->getTypeId())));
+    else if (event->key() == Qt::Key_Delete && currentRow())
+        emit deleteRequested(currentRow());
     event->accept();
 }
 

@@ -106,6 +106,12 @@ signals:
     void rowSelected(SoTreeViewItem* row, bool inNewTab);
     /** A new node of a type is wanted at the current row. */
     void insertRequested(const QString& typeName);
+    /** The user wants a row to be deleted. */
+    void deleteRequested(SoTreeViewItem* row);
+    /** The view got the keyboard. */
+    void focusReceived();
+    /** A menu is wanted; the place of the event is one of the viewport. */
+    void contextMenuRequested(QContextMenuEvent* event);
     /** References were hidden or shown. */
     void referencesChanged();
     /** Something that the user should know about what the tree shows. */
@@ -128,6 +134,7 @@ public slots:
     int getFilter() const;
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;

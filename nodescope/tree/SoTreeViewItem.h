@@ -58,6 +58,8 @@ public:
     /** An ignored row stands for a hidden reference: it is grey and not counted among its siblings. */
     void setIgnored(bool isIgnored);
     bool isIgnored() const { return m_isIgnored; }
+    /** Only a child can be ignored: not the root, nor a node held in a field. */
+    bool acceptsIgnoring() const { return parent() && !m_sourceField; }
     void setCounted(bool isCounted);
     bool isCounted() const { return m_isCounted; }
     /** False while the row is the hidden duplicate of a shared node. */

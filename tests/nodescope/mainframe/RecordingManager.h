@@ -27,6 +27,7 @@ public slots:
     void cut() { m_calls << "cut"; }
     void copy() { m_calls << "copy"; }
     void paste() { m_calls << "paste"; }
+    void pasteNode() { m_calls << "pasteNode"; }
     void showFindDialog() { m_calls << "showFindDialog"; }
     void find() { m_calls << "find"; }
     void findNext() { m_calls << "findNext"; }

@@ -53,7 +53,7 @@ const Expected Actions[] = {
     {"Explore &all", false, "", nullptr},
     {"&Filter...", false, "", nullptr},
     {"&Insert...", false, "", nullptr},
-    {"Insert &clipboard", false, "", nullptr},
+    {"Insert &clipboard", false, "", "pasteNode"},
     {"&Set Ignored/Enable", false, "", "ignoreEnable"},
     {"Show &All References", false, "F4", "showAllReferences"},
     {"&Hide All References", false, "Ctrl+F4", "removeAllReferences"},

@@ -174,6 +174,21 @@ TEST_F(TreeView, TellsAShiftClick)
     EXPECT_FALSE(selected[1][1].toBool());
 }
 
+TEST_F(TreeView, AsksForTheDeletionOfTheCurrentRow)
+{
+    show(Scene);
+    view->show();
+    qRegisterMetaType<SoTreeViewItem*>();
+    QSignalSpy asked(view.get(), &SoNodescopeTreeView::deleteRequested);
+    view->setCurrentItem(row({2}));
+    QTest::keyClick(view.get(), Qt::Key_Delete);
+    ASSERT_EQ(asked.size(), 1);
+    EXPECT_EQ(asked[0][0].value<SoTreeViewItem*>(), row({2}));
+    view->setCurrentItem(nullptr);
+    QTest::keyRelease(view.get(), Qt::Key_Delete);
+    EXPECT_EQ(asked.size(), 1);
+}
+
 /** Stands in for the desktop's browser. */
 class Browser : public QObject {
     Q_OBJECT
