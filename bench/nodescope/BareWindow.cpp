@@ -1,9 +1,10 @@
-// The least that a window with a GL view can be. Leaves once both are painted.
+// The least that a window with a GL view of that many samples a pixel can be. Leaves once both are painted.
 
 #include <QApplication>
 #include <QMainWindow>
 #include <QOpenGLFunctions>
 #include <QOpenGLWidget>
+#include <QSurfaceFormat>
 #include <cstdlib>
 
 namespace {
@@ -26,6 +27,11 @@ int main(int argc, char** argv)
     QMainWindow window;
     window.resize(1200, 800);
     auto* view = new BareView;
+    QSurfaceFormat format;
+    format.setVersion(3, 3);
+    format.setProfile(QSurfaceFormat::CoreProfile);
+    format.setSamples(argc > 1 ? std::atoi(argv[1]) : 0);
+    view->setFormat(format);
     window.setCentralWidget(view);
     QObject::connect(view, &QOpenGLWidget::frameSwapped, [] { std::_Exit(0); });
     window.show();

@@ -109,7 +109,7 @@ QImage SoOffscreenRenderArea::render()
 bool SoOffscreenRenderArea::renderToFile(const SbString& fileName, double quality)
 {
     constexpr const char* Method = "SoOffscreenRenderArea::renderToFile";
-    const QString name = fileName.toQString();
+    const QString& name = fileName.toQString();
     const QByteArray format = QFileInfo(name).suffix().toLower().toLatin1();
     if (!QImageWriter::supportedImageFormats().contains(format)) {
         SoDebugError::post(Method,

@@ -132,6 +132,7 @@ std::vector<SoBase*> SoBase::getNamedBases(const SbName& name, SoType type)
     }
     std::sort(ordered.begin(), ordered.end());
     std::vector<SoBase*> found;
+    found.reserve(ordered.size());
     for (const auto& [order, base] : ordered)
         found.push_back(base);
     return found;

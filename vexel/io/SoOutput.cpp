@@ -116,7 +116,7 @@ SoOutput::~SoOutput() = default;
 
 bool SoOutput::openFile(const SbString& fileName)
 {
-    const QString name = fileName.toQString();
+    const QString& name = fileName.toQString();
     if (name.endsWith(QLatin1String("vxz"), Qt::CaseInsensitive) ||
         name.endsWith(QLatin1String("gz"), Qt::CaseInsensitive))
         m_compressed = true;
@@ -205,7 +205,7 @@ void SoOutput::writeQuoted(std::string_view text)
 void SoOutput::writeNewLine()
 {
     m_text.push_back('\n');
-    m_text.append(static_cast<std::size_t>(2 * std::max(m_indent, 0)), ' ');
+    m_text.append(2 * static_cast<std::size_t>(std::max(m_indent, 0)), ' ');
 }
 
 SceneWriter& SoOutput::sceneWriter()

@@ -136,7 +136,7 @@ SbString SoBaseKit::getPartString(const SoNode* node) const
         SoNode* value = field ? field->getValue() : nullptr;
         if (!value)
             continue;
-        const SbString name(catalog.getName(part));
+        SbString name(catalog.getName(part));
         if (value == node)
             return name;
         if (const SoNodeKitListPart* list = asList(value)) {

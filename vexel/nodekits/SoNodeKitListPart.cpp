@@ -18,6 +18,7 @@ void SoNodeKitListPart::setTypes(SoType container, const std::vector<SoType>& it
     containerTypeName = container.getName();
     containerTypeName.setDefault(true);
     std::vector<SbName> names;
+    names.reserve(items.size());
     for (const SoType type : items)
         names.push_back(type.getName());
     childTypeNames.setValues(std::move(names));

@@ -59,6 +59,7 @@ void SoNode::copyContents(const SoNode& from, SoCopyMap& copies)
         field->remapReferences(copies);
     if (const SoChildList* children = from.getChildren(); children && getChildren()) {
         std::vector<SoNode*> copied;
+        copied.reserve(static_cast<std::size_t>(children->getLength()));
         for (int i = 0; i < children->getLength(); ++i)
             copied.push_back(copies.copyOf((*children)[i]));
         getChildren()->assign(copied);

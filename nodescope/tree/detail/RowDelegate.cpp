@@ -35,7 +35,7 @@ QColor readable(const QColor& color, const QColor& background)
     for (int step = 1; step < 10; ++step) {
         const int lightness = isDark ? color.lightness() + step * (255 - color.lightness()) / 10
                                      : color.lightness() - step * color.lightness() / 10;
-        const QColor candidate = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
+        QColor candidate = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
         if (contrast(candidate, background) >= Readable_contrast)
             return candidate;
     }

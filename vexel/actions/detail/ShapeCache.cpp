@@ -62,6 +62,7 @@ std::shared_ptr<const CompiledShape> compile(const SoShape& shape, const SoState
         bool isLast = true;
         for (std::size_t later = kind + 1; later < CompiledShape::NumKinds; ++later)
             isLast = isLast && indices[later]->empty();
+        // NOLINTNEXTLINE(bugprone-use-after-move): the loop ends with the last one
         RenderGeometryArrays arrays = isLast ? std::move(shared) : shared;
         arrays.primitive = static_cast<RenderPrimitive>(kind);
         arrays.indices = std::move(*indices[kind]);

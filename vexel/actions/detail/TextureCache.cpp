@@ -48,7 +48,7 @@ std::shared_ptr<const RenderImage> normalsOf(const SoSFImage& image)
     const std::vector<std::uint8_t>& bytes = image.getBytes();
     const auto height = [&](int x, int y) {
         const int at = (y + size[1]) % size[1] * size[0] + (x + size[0]) % size[0];
-        return static_cast<float>(bytes[static_cast<std::size_t>(at * components)]) / 255;
+        return static_cast<float>(bytes[static_cast<std::size_t>(at) * components]) / 255;
     };
     constexpr float Steepness = 4;
     std::vector<std::uint8_t> texels;

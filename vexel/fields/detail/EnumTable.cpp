@@ -116,7 +116,7 @@ void EnumTable::writeMask(SoOutput& out, int value) const
         if (flag != 0 && (flag & (flag - 1)) == 0 && (rest & flag) != 0) {
             out.write(separator);
             out.write(' ');
-            out.write(m_entries[i].name);
+            out.write(m_entries[i].name); // NOLINT(clang-analyzer-core.NonNullParamChecker): every entry has a name
             separator = " |";
             rest &= ~flag;
         }
