@@ -195,10 +195,8 @@ NscFindDialog& SoCommandManager::findDialog()
 void SoCommandManager::showFindDialog()
 {
     NscFindDialog& dialog = findDialog();
-    if (dialog.isHidden())
-        dialog.show();
-    else if (!dialog.isActiveWindow())
-        dialog.activateWindow();
+    dialog.show();
+    dialog.activateWindow(); // a window that is shown gets the keyboard by itself only from some window managers
     dialog.setFocus();
 }
 

@@ -86,6 +86,8 @@ QLayout* SoNodescopeAddDialog::makeTypeList()
     m_types->setHeaderLabel(tr("Type"));
     m_types->setHeaderHidden(true);
     m_types->setRootIsDecorated(true);
+    m_types->setIconSize(QSize(20, 20));
+    m_types->setUniformRowHeights(true);
     m_types->setExpandsOnDoubleClick(false); // itemDoubleClick() does
     m_types->setAccessibleName(tr("Type"));
     m_types->installEventFilter(this);

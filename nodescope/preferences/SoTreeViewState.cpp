@@ -18,6 +18,7 @@
 /** An entry that stands in the context menu only. */
 struct ContextMenuEntry {
     const char* text;
+    const char* icon; ///< file name in the icon folder; null: none
     const char* managerSlot;
 };
 
@@ -28,22 +29,27 @@ using References = SoNodescopeTreeView::References;
 constexpr const char* Delete_slot = "treeDeleteNode()";
 
 constexpr ContextMenuEntry Row_entries[] = {
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "Expand All"), "expandAll()"},
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "Add to Node Overview"), "setNodeOverview()"},
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "Add Node"), "treeAddNode()"},
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Save scene graph"), "saveSubSceneGraph()"},
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Delete"), Delete_slot},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "Expand All"), nullptr, "expandAll()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "Add to Node Overview"), nullptr, "setNodeOverview()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "Add Node"), nullptr, "treeAddNode()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Save scene graph"), "filesave.png", "saveSubSceneGraph()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Delete"), "editdelete.png", Delete_slot},
 };
 
 // The main window's actions of these names work on the system's clipboard; these keep a node inside the program.
 constexpr ContextMenuEntry Clipboard_entries[] = {
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "Cu&t"), "cutNode()"},
-    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Copy"), "copyNode()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "Cu&t"), "editcut.png", "cutNode()"},
+    {QT_TRANSLATE_NOOP("SoTreeViewState", "&Copy"), "editcopy.png", "copyNode()"},
 };
 
 constexpr ActionId Actions_on_rows[] = {ActionId::ShowAllReferences, ActionId::HideAllReferences,
                                         ActionId::NextReference,     ActionId::PreviousReference,
                                         ActionId::SetIgnoredEnable,  ActionId::Delete};
+
+QIcon icon(const char* file)
+{
+    return file ? QIcon(QStringLiteral(":/Nodescope_icons/Icons/") + file) : QIcon();
+}
 
 bool hasContentsOfAFile(const SoNode& node)
 {
@@ -139,7 +145,7 @@ void SoTreeViewState::fillMenu(QMenu& menu, const SoTreeViewItem& row)
 void SoTreeViewState::addEntries(QMenu& menu, const ContextMenuEntry* begin, const ContextMenuEntry* end)
 {
     for (const ContextMenuEntry* entry = begin; entry != end; ++entry) {
-        QAction* const added = menu.addAction(tr(entry->text));
+        QAction* const added = menu.addAction(icon(entry->icon), tr(entry->text));
         added->setEnabled(managerHas(entry->managerSlot));
         connectToManager(*added, entry->managerSlot);
     }
