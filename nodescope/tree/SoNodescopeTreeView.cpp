@@ -35,6 +35,19 @@ SoTreeViewItem* asRow(QTreeWidgetItem* item)
     return static_cast<SoTreeViewItem*>(item);
 }
 
+/** Whether groups and fields hold the node more than once in all. */
+bool hasSeveralParents(const SoNode& node)
+{
+    const AuditorList& auditors = node.getAuditors();
+    unsigned places = 0;
+    for (std::size_t i = 0; places < 2 && i < auditors.size(); ++i) {
+        const SoAuditorType type = auditors.at(i).type;
+        if (type == SoAuditorType::Container || type == SoAuditorType::Field)
+            places += auditors.countAt(i);
+    }
+    return places >= 2;
+}
+
 } // namespace
 
 SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
@@ -362,7 +375,7 @@ void SoNodescopeTreeView::refreshSelection()
 SoNodescopeTreeView::References SoNodescopeTreeView::references(const SoTreeViewItem& row)
 {
     // Most nodes stand in one place only; that is known without asking for their rows.
-    if (row.referenceCount() < 2)
+    if (!hasSeveralParents(*row.node()))
         return References::None;
     const QList<SoTreeViewItem*> rows = m_registry.rows(row.node());
     if (rows.size() < 2)
