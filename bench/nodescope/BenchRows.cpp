@@ -110,7 +110,13 @@ void RowMemory(benchmark::State& state)
     bare.setColumnCount(5);
     for (auto _ : state) {
         const auto ours = double(bytesTakenBy([&] { view.reset(root); })) / numRows;
-        const auto baseline = double(bytesTakenBy([&] { buildBareRows(bare, root); })) / numRows;
+        const auto baseline = double(bytesTakenBy([&] {
+                                  buildBareRows(bare, root);
+                                  // Ours shows the rows below the first one at once.
+                                  bare.expandItem(bare.topLevelItem(0));
+                                  bare.visualItemRect(bare.topLevelItem(0));
+                              })) /
+                              numRows;
         state.counters["ratio"] = ours / baseline;
         state.counters["bytes_per_row"] = ours;
         state.counters["baseline_bytes_per_row"] = baseline;

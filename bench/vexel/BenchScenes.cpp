@@ -53,7 +53,7 @@ SoSeparator* makeSheet()
 
 std::string writeFile(const QTemporaryDir& folder, const char* name, SoNode* root, bool isBinary)
 {
-    const std::string path = folder.filePath(QString::fromLatin1(name)).toStdString();
+    std::string path = folder.filePath(QString::fromLatin1(name)).toStdString();
     SoOutput out;
     out.setBinary(isBinary);
     if (!out.openFile(SbString(path.c_str())))

@@ -98,7 +98,7 @@ void SoSensor::trigger()
 
 SoDelayQueueSensor::~SoDelayQueueSensor()
 {
-    unschedule();
+    SoDelayQueueSensor::unschedule();
 }
 
 void SoDelayQueueSensor::setPriority(std::uint32_t priority)
@@ -128,7 +128,7 @@ void SoDelayQueueSensor::unschedule()
 
 SoTimerQueueSensor::~SoTimerQueueSensor()
 {
-    unschedule();
+    SoTimerQueueSensor::unschedule();
 }
 
 void SoTimerQueueSensor::scheduleAt(SbTime time)

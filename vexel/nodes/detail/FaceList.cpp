@@ -30,7 +30,7 @@ public:
     {
         m_ring.clear();
         for (int i = 0; i < face.numCorners; ++i) {
-            const auto at = static_cast<std::size_t>(face.firstCorner + i);
+            const auto at = static_cast<std::size_t>(face.firstCorner) + static_cast<std::size_t>(i);
             m_ring.push_back(m_vertices.vertex(list.corners[at], face.part, normals ? normals + at : nullptr));
         }
         if (m_ring.size() == 3 || m_isConvex)

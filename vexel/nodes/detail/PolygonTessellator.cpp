@@ -16,6 +16,7 @@ struct PolygonTessellator::Callbacks {
         std::uint32_t numbers[4];
         float shares[4];
         for (int i = 0; i < 4; ++i) {
+            // NOLINTNEXTLINE(clang-analyzer-core.NullDereference): the first one is always given
             numbers[i] = static_cast<Vertex*>(from[i] ? from[i] : from[0])->number;
             shares[i] = from[i] ? weights[i] : 0;
         }

@@ -24,7 +24,7 @@ ThumbWheel::ThumbWheel(Qt::Orientation orientation, const QString& name, QWidget
     setAccessibleName(name);
     setFocusPolicy(Qt::TabFocus);
     setCursor(orientation == Qt::Horizontal ? Qt::SizeHorCursor : Qt::SizeVerCursor);
-    setFixedSize(sizeHint());
+    setFixedSize(ThumbWheel::sizeHint());
 }
 
 QSize ThumbWheel::sizeHint() const
