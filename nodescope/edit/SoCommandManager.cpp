@@ -1,13 +1,21 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
+#include "SoNodeOverrideCommand.h"
 #include "SoNodescopeAddDialog.h"
+#include "SoTreeAddNodeCommand.h"
+#include "SoTreeDeleteNodeCommand.h"
+#include "SoTreeMoveNodeCommand.h"
+#include "detail/SceneClipboard.h"
 
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 #include <nodescope/tree/NodeSearch.h>
 #include <nodescope/tree/NscFindDialog.h>
+#include <nodescope/tree/SoGraphTopologyManager.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
+#include <vexel/base/SbName.h>
+#include <vexel/nodes/SoNode.h>
 
 #include <QAction>
 #include <QComboBox>
@@ -15,7 +23,11 @@
 
 SoCommandManager::SoCommandManager(QObject* parent) : QObject(parent), m_history(new CommandHistory(this)) {}
 
-SoCommandManager::~SoCommandManager() = default;
+SoCommandManager::~SoCommandManager()
+{
+    if (m_clipboardNode)
+        m_clipboardNode->unref();
+}
 
 void SoCommandManager::initialize(SoNodescopeMainFrame* frame)
 {
@@ -29,7 +41,28 @@ void SoCommandManager::initialize(SoNodescopeMainFrame* frame)
 void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
 {
     delete m_addDialog; // it serves one tree
+    if (m_treeView) {
+        m_treeView->disconnect(this);
+        m_treeView->topologyManager().disconnect(this);
+    }
     m_treeView = treeView;
+    if (m_treeView) {
+        connect(m_treeView, &SoNodescopeTreeView::deleteRequested, this, &SoCommandManager::treeDeleteNode);
+        connect(m_treeView, &SoNodescopeTreeView::moveRequested, this, &SoCommandManager::treeMoveNode);
+        connect(m_treeView, &SoNodescopeTreeView::insertRequested, this, &SoCommandManager::treeInsertNode);
+        connect(&m_treeView->topologyManager(), &SoGraphTopologyManager::fileRowsReloaded, this,
+                &SoCommandManager::clearUndoCommand);
+    }
+}
+
+SoNodescopeTreeView* SoCommandManager::treeView() const
+{
+    return m_treeView;
+}
+
+SoTreeViewItem* SoCommandManager::currentRow() const
+{
+    return m_treeView ? m_treeView->currentRow() : nullptr;
 }
 
 bool SoCommandManager::isModified() const
@@ -87,6 +120,29 @@ void SoCommandManager::closeFile()
     m_frame->action(ActionId::Reload)->setEnabled(false);
 }
 
+void SoCommandManager::cut()
+{
+    if (m_treeView && m_treeView->selectionRoot())
+        SceneClipboard::cut(*m_treeView->selectionRoot());
+}
+
+void SoCommandManager::copy()
+{
+    if (m_treeView && m_treeView->selectionRoot())
+        SceneClipboard::copy(*m_treeView->selectionRoot());
+}
+
+void SoCommandManager::paste()
+{
+    if (m_treeView && m_treeView->selectionRoot())
+        SceneClipboard::paste(*m_treeView->selectionRoot());
+}
+
+void SoCommandManager::setScene(SoNode* scene, bool clearsUndo)
+{
+    m_frame->sceneFiles()->setScene(scene, clearsUndo);
+}
+
 void SoCommandManager::undo()
 {
     m_history->undo();
@@ -105,6 +161,69 @@ bool SoCommandManager::addCommand(NscCommand* command)
 void SoCommandManager::clearUndoCommand()
 {
     m_history->clear();
+}
+
+void SoCommandManager::nodeSetOverride(bool on)
+{
+    if (currentRow())
+        addCommand(new SoNodeOverrideCommand(currentRow()->node(), on));
+}
+
+void SoCommandManager::treeDeleteNode(SoTreeViewItem* item)
+{
+    bool canDelete = false;
+    auto command = std::make_unique<SoTreeDeleteNodeCommand>(*this, item ? item : currentRow(), canDelete);
+    if (canDelete)
+        addCommand(command.release());
+}
+
+void SoCommandManager::treeMoveNode(SoTreeViewItem* itemToMove, SoTreeViewItem* itemInsertAfter, bool spaceBarPressed)
+{
+    auto command = std::make_unique<SoTreeMoveNodeCommand>(*this, itemToMove, itemInsertAfter, spaceBarPressed);
+    if (command->isMoved())
+        addCommand(command.release());
+}
+
+void SoCommandManager::treeInsertNode(const QString& typeName)
+{
+    auto command = std::make_unique<SoTreeAddNodeCommand>(*this, currentRow());
+    if (command->addType(SbName(typeName.toLatin1().constData())))
+        static_cast<void>(command.release()); // the history has it
+}
+
+void SoCommandManager::copyNode()
+{
+    if (!currentRow())
+        return;
+    SoNode* const copy = currentRow()->node()->copy(true);
+    copy->ref();
+    if (m_clipboardNode)
+        m_clipboardNode->unref();
+    m_clipboardNode = copy;
+}
+
+void SoCommandManager::cutNode()
+{
+    if (!currentRow())
+        return;
+    copyNode();
+    bool canDelete = false;
+    addCommand(new SoTreeDeleteNodeCommand(*this, currentRow(), canDelete)); // also one that deleted nothing
+}
+
+void SoCommandManager::pasteNode()
+{
+    if (!m_clipboardNode)
+        return;
+    auto* const command = new SoTreeAddNodeCommand(*this, currentRow());
+    command->addNode(m_clipboardNode);
+    addCommand(command); // once more, or for the first time when nothing was added
+}
+
+void SoCommandManager::ignoreEnable()
+{
+    if (SoTreeViewItem* const row = currentRow())
+        row->setIgnored(!row->isIgnored());
 }
 
 void SoCommandManager::treeAddNode(SoTreeViewItem* item)

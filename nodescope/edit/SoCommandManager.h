@@ -9,6 +9,7 @@ class CommandHistory;
 class NscCommand;
 class NscFindDialog;
 class QTreeWidgetItem;
+class SoNode;
 class SoNodescopeAddDialog;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
@@ -28,6 +29,8 @@ public:
     /** The tree that the actions on rows work on; null for none. Not owned. */
     void setTreeView(SoNodescopeTreeView* treeView);
 
+    SoNodescopeTreeView* treeView() const;
+
     /** Whether the scene was changed through a command since the history was last cleared. */
     bool isModified() const;
 
@@ -41,6 +44,16 @@ public slots:
     void saveAsFile();
     void closeFile();
 
+    /** Exchanges the node selected in the 3D view with the system clipboard; not undoable. */
+    ///@{
+    void cut();
+    void copy();
+    void paste();
+    ///@}
+
+    /** Displays a scene; with @p clearUndoCommand nothing can be undone after that. */
+    void setScene(SoNode* scene, bool clearUndoCommand = true);
+
     void undo();
     void redo();
     /** Takes the command over and executes it; answers what it answers. */
@@ -49,6 +62,22 @@ public slots:
 
     // Slots on a row take the tree's current one when none is given, and do nothing when there is none.
 
+    /** Sets the override flag of the current row's node. */
+    void nodeSetOverride(bool on);
+    void treeDeleteNode(SoTreeViewItem* itemToDelete = nullptr);
+    /** Moves a node; see SoTreeMoveNodeCommand. */
+    void treeMoveNode(SoTreeViewItem* itemToMove, SoTreeViewItem* itemInsertAfter, bool spaceBarPressed);
+    /** Adds a new node of a type at the current row. */
+    void treeInsertNode(const QString& typeName);
+    /** The current row's node, or a copy of it, goes into a clipboard of the inspector's own. */
+    ///@{
+    void cutNode();
+    void copyNode();
+    /** Adds the node in the clipboard, the same one each time. */
+    void pasteNode();
+    ///@}
+    /** Marks the current row as ignored, or takes the mark away. */
+    void ignoreEnable();
     /** Shows the dialog that adds nodes at a row. */
     void treeAddNode(SoTreeViewItem* item = nullptr);
     /** Writes the graph below a row to a file that the user names. */
@@ -78,6 +107,7 @@ public slots:
     void setFilter(int filter);
 
 private:
+    SoTreeViewItem* currentRow() const;
     NscFindDialog& findDialog();
     void find(int flags);
 
@@ -87,4 +117,5 @@ private:
     QPointer<SoNodescopeAddDialog> m_addDialog;
     QPointer<SoNodescopeTreeView> m_treeView;
     CommandHistory* m_history;
+    SoNode* m_clipboardNode = nullptr; ///< a copy, referenced
 };

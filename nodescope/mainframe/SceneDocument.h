@@ -7,7 +7,8 @@ class SceneDocument {
 public:
     virtual ~SceneDocument() = default;
 
-    /** The displayed scene; null: none. */
+    /** The displayed scene; null: none. One that was pasted to from elsewhere may be a new node that nobody references.
+     */
     virtual SoNode* scene() const = 0;
     /** Displays a scene in place of the present one; with `resetCommands` nothing can be undone after that. */
     virtual void setSceneGraph(SoNode* root, bool resetCommands) = 0;

@@ -12,6 +12,8 @@ class NODESCOPE_API SceneFileHandler {
 public:
     virtual ~SceneFileHandler() = default;
 
+    /** Displays a scene, null for none; with `clearsUndo` nothing can be undone after that. */
+    virtual void setScene(SoNode* scene, bool clearsUndo) = 0;
     /** Replaces the scene by an empty one; false when the user keeps the present one. */
     virtual bool newScene() = 0;
     virtual void openFile(const QString& file) = 0;

@@ -56,6 +56,11 @@ QString filterText(const char* format)
 
 } // namespace
 
+void SceneFiles::setScene(SoNode* scene, bool clearsUndo)
+{
+    m_document.setSceneGraph(scene, clearsUndo);
+}
+
 bool SceneFiles::newScene()
 {
     if (!mayDiscardChanges())

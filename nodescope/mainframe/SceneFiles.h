@@ -25,6 +25,7 @@ public:
     /** Name of the file that the scene was read from or written to last; empty: none. */
     const QString& currentFile() const { return m_currentFile; }
 
+    void setScene(SoNode* scene, bool clearsUndo) override;
     bool newScene() override;
     void openFile(const QString& file) override;
     void openRecentFile(const QString& file) override;

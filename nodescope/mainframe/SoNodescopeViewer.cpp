@@ -122,7 +122,6 @@ void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
         m_selection->deselectAll();
     const NodeKeeper keeper(root);
     m_selection->removeAllChildren(); // and with them the rows
-    m_scene = root;
     emit m_treeView->newSceneGraph(root);
     if (!root)
         return;
@@ -133,6 +132,17 @@ void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)
         m_examiner->setSceneGraph(m_selection);
 }
 
+SoNode* SoNodescopeViewer::scene() const
+{
+    const int count = m_selection->getNumChildren();
+    if (count < 2)
+        return count == 0 ? nullptr : m_selection->getChild(0);
+    auto* joined = new SoSeparator;
+    for (int i = 0; i < count; ++i)
+        joined->addChild(m_selection->getChild(i));
+    return joined;
+}
+
 bool SoNodescopeViewer::isModified() const
 {
     return m_services.getCommandManager()->isModified();
@@ -141,12 +151,13 @@ bool SoNodescopeViewer::isModified() const
 void SoNodescopeViewer::pick(const SbViewportRegion& region, SbVec2s cursor)
 {
     const auto* host = m_services.isStandalone() ? nullptr : dynamic_cast<SoGuiViewer*>(m_services.getRenderArea());
-    if (!host || host->isViewing() || !m_scene)
+    if (!host || host->isViewing() || m_selection->getNumChildren() == 0)
         return;
     auto* root = new SoSeparator;
     const NodeKeeper keeper(root);
     root->addChild(host->getCamera());
-    root->addChild(m_scene);
+    for (int i = 0; i < m_selection->getNumChildren(); ++i)
+        root->addChild(m_selection->getChild(i));
     SoRayPickAction action(region);
     action.setPoint(cursor);
     action.apply(root);

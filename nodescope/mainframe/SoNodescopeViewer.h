@@ -31,7 +31,7 @@ public:
 
     SoNodescopeMainFrame& mainFrame() const { return m_frame; }
     SoNodescopeTreeView* treeView() const { return m_treeView; }
-    /** Root of what is displayed: the scene is its only child. */
+    /** Root of what is displayed: the scene is its child, with what was pasted beside it. */
     SoSelection* selection() const { return m_selection; }
     SceneFiles& sceneFiles() { return m_sceneFiles; }
 
@@ -39,7 +39,7 @@ public:
      * host's viewer uses the mouse for its camera. */
     void pick(const SbViewportRegion& region, SbVec2s cursor);
 
-    SoNode* scene() const override { return m_scene; }
+    SoNode* scene() const override;
     void setSceneGraph(SoNode* root, bool resetCommands) override;
     bool isModified() const override;
 
@@ -57,6 +57,5 @@ private:
     std::unique_ptr<SoQtExaminerViewer> m_examiner; ///< null on a host
     SoSelection* m_selection;
     SoNodescopeTreeView* m_treeView;
-    SoNode* m_scene = nullptr;
     bool m_highlights;
 };

@@ -7,6 +7,7 @@
 #include "detail/RowSynchronizer.h"
 
 #include <vexel/fields/SoField.h>
+#include <vexel/nodes/SoChildList.h>
 #include <vexel/nodes/SoFile.h>
 #include <vexel/nodes/SoNode.h>
 #include <vexel/nodes/SoWWWInline.h>
@@ -75,11 +76,20 @@ void SoGraphTopologyManager::graphChanged(const SoNodeSensor& sensor)
         childrenChanged(node, type, sensor.getTriggerChild(), sensor.getTriggerChildIndex());
 }
 
+// The scene is the only child of the root until something is pasted beside it.
 void SoGraphTopologyManager::rootChanged(const SoNodeSensor& sensor)
 {
-    const SoTriggerType type = sensor.getTriggerType();
-    const bool isGone = type == SO_TRIGGER_CHILD_REMOVED || type == SO_TRIGGER_ALL_CHILDREN_REMOVED;
-    m_treeView->reset(isGone ? nullptr : sensor.getTriggerChild());
+    const int type = sensor.getTriggerType();
+    const int index = sensor.getTriggerChildIndex();
+    const int count = sensor.getAttachedNode()->getChildren()->getLength();
+    if (count == 0 || (count == 1 && type != SO_TRIGGER_CHILD_REMOVED)) {
+        m_treeView->reset(count == 0 ? nullptr : sensor.getTriggerChild());
+        return;
+    }
+    if (type == SO_TRIGGER_CHILD_REMOVED || type == SO_TRIGGER_CHILD_REPLACED)
+        delete m_treeView->topLevelItem(index);
+    if (type != SO_TRIGGER_CHILD_REMOVED)
+        m_treeView->createItem(sensor.getTriggerChild(), nullptr, nullptr, index);
 }
 
 void SoGraphTopologyManager::childrenChanged(SoNode* parent, int type, SoNode* child, int index)

@@ -8,6 +8,7 @@
 #include "detail/ReferenceHiding.h"
 #include "detail/RowBuilder.h"
 #include "detail/RowDelegate.h"
+#include "detail/RowDrag.h"
 #include "detail/RowHighlighter.h"
 #include "detail/RowSearch.h"
 #include "detail/RowTexts.h"
@@ -20,6 +21,9 @@
 #include <QContextMenuEvent>
 #include <QDesktopServices>
 #include <QHeaderView>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
 #include <QTimer>
 
 #include <algorithm>
@@ -53,7 +57,7 @@ bool hasSeveralParents(const SoNode& node)
 SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
     : QTreeWidget(parent), m_registry(this), m_filter(std::make_unique<CategoryFilter>(this)),
       m_references(std::make_unique<ReferenceHiding>(m_registry)), m_highlighter(std::make_unique<RowHighlighter>()),
-      m_topologyManager(std::make_unique<SoGraphTopologyManager>(this))
+      m_topologyManager(std::make_unique<SoGraphTopologyManager>(this)), m_drag(std::make_unique<RowDrag>(*this))
 {
     setColumnCount(SoTreeViewItem::ColumnCount);
     header()->setStretchLastSection(false);
@@ -69,6 +73,7 @@ SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
     setIconSize(QSize(20, 20));
     setStyleSheet(treeStyleSheet());
     setItemDelegate(new RowDelegate(this));
+    setAcceptDrops(true);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setAccessibleName(tr("Scene graph"));
 
@@ -188,8 +193,12 @@ void SoNodescopeTreeView::makePendingChildren(SoTreeViewItem* row)
 
 SoTreeViewItem* SoNodescopeTreeView::rowForPath(const SoPath& path, int firstNode)
 {
-    SoTreeViewItem* row = asRow(topLevelItem(0));
-    if (!row || firstNode >= path.getFullLength() || row->node() != path.getNode(firstNode))
+    SoTreeViewItem* row = nullptr;
+    for (int i = 0; !row && firstNode < path.getFullLength() && i < topLevelItemCount(); ++i) {
+        if (asRow(topLevelItem(i))->node() == path.getNode(firstNode))
+            row = asRow(topLevelItem(i));
+    }
+    if (!row)
         return nullptr;
     for (int i = firstNode + 1; i < path.getFullLength(); ++i) {
         makePendingChildren(row);
@@ -454,21 +463,30 @@ void SoNodescopeTreeView::focusInEvent(QFocusEvent* event)
 
 void SoNodescopeTreeView::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Asterisk) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+        m_drag->setSpaceHeld(true);
+        break;
+    case Qt::Key_Asterisk:
         if (currentItem())
             expandBelow(currentItem());
-        event->accept();
+        break;
+    default:
+        QTreeWidget::keyPressEvent(event);
         return;
     }
-    QTreeWidget::keyPressEvent(event);
+    event->accept();
 }
 
 void SoNodescopeTreeView::keyReleaseEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_F1 && currentRow())
-        QDesktopServices::openUrl(ClassReference::page(RowTexts::typeName(currentRow()->node()->getTypeId())));
-    else if (event->key() == Qt::Key_Delete && currentRow())
-        emit deleteRequested(currentRow());
+    SoTreeViewItem* const row = currentRow();
+    if (event->key() == Qt::Key_Space && !event->isAutoRepeat())
+        m_drag->setSpaceHeld(false);
+    else if (event->key() == Qt::Key_Delete && row)
+        emit deleteRequested(row);
+    else if (event->key() == Qt::Key_F1 && row)
+        QDesktopServices::openUrl(ClassReference::page(RowTexts::typeName(row->node()->getTypeId())));
     event->accept();
 }
 
@@ -477,4 +495,45 @@ void SoNodescopeTreeView::mousePressEvent(QMouseEvent* event)
     m_shiftClicked = itemAt(event->pos()) && event->modifiers() == Qt::ShiftModifier;
     QTreeWidget::mousePressEvent(event);
     m_shiftClicked = false;
+    m_drag->press(event->pos());
+}
+
+void SoNodescopeTreeView::mouseMoveEvent(QMouseEvent* event)
+{
+    if (event->buttons() & Qt::LeftButton)
+        m_drag->move(event->pos()); // rows that the mouse is drawn over are not selected
+    else
+        QTreeWidget::mouseMoveEvent(event);
+}
+
+void SoNodescopeTreeView::dragEnterEvent(QDragEnterEvent* event)
+{
+    event->setAccepted(!event->mimeData()->hasUrls()); // files are for the window
+}
+
+void SoNodescopeTreeView::dragMoveEvent(QDragMoveEvent* event)
+{
+    QTreeWidget::dragMoveEvent(event); // which scrolls near the edges
+    if (m_drag->draggedRow(*event->mimeData()))
+        m_drag->hover(event->pos());
+    event->accept();
+}
+
+void SoNodescopeTreeView::dragLeaveEvent(QDragLeaveEvent* event)
+{
+    m_drag->leave();
+    QTreeWidget::dragLeaveEvent(event);
+}
+
+void SoNodescopeTreeView::dropEvent(QDropEvent* event)
+{
+    event->accept();
+    m_drag->drop(event->pos(), *event->mimeData());
+}
+
+void SoNodescopeTreeView::paintEvent(QPaintEvent* event)
+{
+    QTreeWidget::paintEvent(event);
+    QPainter painter(viewport());
+    m_drag->paintIndicator(painter);
 }

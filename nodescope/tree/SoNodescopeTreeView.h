@@ -12,6 +12,7 @@
 class CategoryFilter;
 class ReferenceHiding;
 class RowBuilder;
+class RowDrag;
 class RowHighlighter;
 class SoField;
 class SoGraphTopologyManager;
@@ -62,7 +63,7 @@ public:
 
     SoTreeViewItem* currentRow() const;
     /**
-     * The row that a path leads to, from its node @p firstNode on, which is that of the top-level row; the last row on
+     * The row that a path leads to, from its node @p firstNode on, which is that of a top-level row; the last row on
      * the way when the path goes on where no rows are. Null when it begins elsewhere.
      */
     SoTreeViewItem* rowForPath(const SoPath& path, int firstNode = 0);
@@ -112,6 +113,8 @@ signals:
     void focusReceived();
     /** A menu is wanted; the place of the event is one of the viewport. */
     void contextMenuRequested(QContextMenuEvent* event);
+    /** The user dropped a row on another; @p isSpaceHeld puts it behind that one. */
+    void moveRequested(SoTreeViewItem* row, SoTreeViewItem* target, bool isSpaceHeld);
     /** References were hidden or shown. */
     void referencesChanged();
     /** Something that the user should know about what the tree shows. */
@@ -138,6 +141,12 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void keyReleaseEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dragLeaveEvent(QDragLeaveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     RowBuilder rowBuilder(SoNode& node);
@@ -156,6 +165,7 @@ private:
     std::unique_ptr<ReferenceHiding> m_references;
     std::unique_ptr<RowHighlighter> m_highlighter;
     std::unique_ptr<SoGraphTopologyManager> m_topologyManager;
+    std::unique_ptr<RowDrag> m_drag;
     bool m_shiftClicked = false;
     bool m_notifiesSelection = true;
     bool m_resizePending = false;

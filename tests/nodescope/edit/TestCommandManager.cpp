@@ -26,6 +26,7 @@ class FileRecorder : public SceneFileHandler {
 public:
     explicit FileRecorder(const SoCommandManager& manager) : m_manager(manager) {}
 
+    void setScene(SoNode*, bool clearsUndo) override { record(clearsUndo ? "set scene, clear" : "set scene"); }
     bool newScene() override
     {
         record("new");

@@ -7,6 +7,7 @@
 /** Writes down what is asked of the scene files. */
 class RecordingSceneFiles : public SceneFileHandler {
 public:
+    void setScene(SoNode*, bool clearsUndo) override { m_calls << (clearsUndo ? "setScene clear" : "setScene"); }
     bool newScene() override
     {
         m_calls << "newScene";
