@@ -75,7 +75,8 @@ void SoTreeViewState::activate()
 
 void SoTreeViewState::deactivate()
 {
-    m_treeView.disconnect(this);
+    disconnect(&m_treeView, &QTreeWidget::currentItemChanged, this, nullptr);
+    disconnect(&m_treeView, &SoNodescopeTreeView::referencesChanged, this, nullptr);
     action(ActionId::Delete).disconnect(&m_commandManager);
 }
 

@@ -143,6 +143,13 @@ TEST_F(ContextMenuTest, IsNotShownOnEmptySpaceOrADisabledRow)
     EXPECT_FALSE(openMenu(row(2), [](QMenu&) {}));
 }
 
+TEST_F(ContextMenuTest, IsThereWhileAnotherPanelHasTheSharedActions)
+{
+    m_state->deactivate();
+    EXPECT_TRUE(openMenu(row(2), [](QMenu& menu) { entry(menu, "&Delete")->trigger(); }));
+    EXPECT_EQ(m_commands.takeCalls(), QStringList("treeDeleteNode"));
+}
+
 TEST_F(ContextMenuTest, IsGoneAfterUse)
 {
     const int before = m_frame.findChildren<QMenu*>().size();
