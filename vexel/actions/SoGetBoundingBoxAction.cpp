@@ -80,7 +80,7 @@ void SoGetBoundingBoxAction::checkDependencies(const SoShape& shape)
             (dependencies & SoShape::ON_COORDINATES) != 0 &&
             ((open.coordinates3.source && present->coordinates3.source == open.coordinates3.source) ||
              (open.coordinates4.source && present->coordinates4.source == open.coordinates4.source));
-        if (usesOuterCoordinates || (dependencies & (SoShape::ON_FONT | SoShape::ON_VIEW)) != 0)
+        if (usesOuterCoordinates || (dependencies & (SoShape::ON_FONT | SoShape::ON_VIEW | SoShape::BOX_ON_VIEW)) != 0)
             open.isCacheable = false;
     }
 }

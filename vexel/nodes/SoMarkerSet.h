@@ -3,7 +3,10 @@
 #include <vexel/fields/SoMFInt32.h>
 #include <vexel/nodes/SoPointSet.h>
 
-/** Small signs of a fixed size in pixels at consecutive coordinates. */
+/**
+ * Small signs of a fixed size in pixels at consecutive coordinates. A sign faces the viewer with its middle at its
+ * point, in the colour of the point's material; it is seen as long as the point is in sight.
+ */
 class VEXEL_API SoMarkerSet : public SoPointSet {
     SO_NODE(SoMarkerSet, SoPointSet)
 public:
@@ -45,6 +48,14 @@ public:
     enum Size { SIZE_5_5, SIZE_7_7, SIZE_9_9, NumSizes };
     static constexpr int markerOf(Sign sign, Size size) { return sign + size * NumSigns; }
 
-    /** The sign of each point, by markerOf(); the last one is for all points that follow. -1 shows none. */
+    /** The sign of each point, by markerOf(); the last one is for all points that follow. A negative number
+     *  shows none, one beyond the last sign shows the first. */
     SoMFInt32 markerIndex{this, "markerIndex", 0};
+
+    void buildGeometry(const SoState& state, SoShapeGeometry& geometry) const override;
+    SbBox3f computeBoundingBox(const SoState& state) const override;
+    unsigned getDependencies() const override { return SoPointSet::getDependencies() | BOX_ON_VIEW; }
+
+private:
+    int markerAt(int point) const;
 };

@@ -37,7 +37,8 @@ public:
         ON_COMPLEXITY = 8,
         ON_SHAPE_HINTS = 16,
         ON_FONT = 32,
-        ON_VIEW = 64 /**< camera and viewport: size on the screen */
+        ON_VIEW = 64,     /**< camera and viewport: size on the screen */
+        BOX_ON_VIEW = 128 /**< the same, but for the bounding box alone */
     };
     virtual unsigned getDependencies() const = 0;
 

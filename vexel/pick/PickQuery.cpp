@@ -76,7 +76,7 @@ PickQuery PickQuery::alongRay(const SbVec3f& origin, const SbVec3f& direction, f
 
 float PickQuery::reach(float pixelSize) const
 {
-    return m_isPixel ? std::max(1.0f, 0.5f * pixelSize / m_radius) : 1.0f;
+    return std::max(1.0f, pixels(0.5f * pixelSize));
 }
 
 SbMatrix PickQuery::circleMatrix(const Bounds& box) const

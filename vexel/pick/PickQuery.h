@@ -34,6 +34,8 @@ public:
     /** Maps the world to a clip space in which the circle is the one of radius 1 around the middle; the depth of things
         in the box is kept as well as possible. */
     SbMatrix circleMatrix(const Bounds& box) const;
+    /** A number of pixels in that space; 0 for a ray, which knows of none. */
+    float pixels(float count) const { return m_isPixel ? count / m_radius : 0; }
     /** How far from the middle, in that space, something drawn with that size may be and still be hit. */
     float reach(float pixelSize) const;
 

@@ -49,6 +49,7 @@ RenderGeometry::RenderGeometry(RenderGeometryArrays arrays) : m_arrays(std::move
     keepIfComplete(m_arrays.normals, count);
     keepIfComplete(m_arrays.colors, count);
     keepIfComplete(m_arrays.textureCoordinates, count);
+    keepIfComplete(m_arrays.signs, count);
     if (m_arrays.indices.empty()) {
         m_arrays.indices.resize(count);
         std::iota(m_arrays.indices.begin(), m_arrays.indices.end(), 0u);

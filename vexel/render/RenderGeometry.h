@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -13,6 +14,21 @@ namespace vexel {
 /** What consecutive indices of a geometry make. */
 enum class RenderPrimitive : std::uint8_t { Triangles, Lines, Points };
 
+/** A small picture of a fixed size in pixels that a point is drawn as. */
+struct RenderSign {
+    static constexpr std::size_t MaxSize = 9;
+    static constexpr std::size_t RowsPerWord = 3;
+
+    std::array<std::uint32_t, MaxSize / RowsPerWord> bits{};
+    std::uint32_t size = 0; ///< width and height, odd so that there is a pixel in the middle
+
+    /** Sets a row, counted from the top; the lowest bit is the leftmost pixel. */
+    void setRow(std::size_t row, std::uint32_t pixels)
+    {
+        bits[row / RowsPerWord] |= pixels << row % RowsPerWord * MaxSize;
+    }
+};
+
 /** The arrays from which a RenderGeometry is made. Optional arrays are empty or as long as `positions`. */
 struct RenderGeometryArrays {
     RenderPrimitive primitive = RenderPrimitive::Triangles;
@@ -20,6 +36,7 @@ struct RenderGeometryArrays {
     std::vector<SbVec3f> normals;      ///< unit length; without them triangles are shaded flat, others unlit
     std::vector<std::uint32_t> colors; ///< red in the lowest byte, then green, blue, alpha; replaces the diffuse colour
     std::vector<SbVec3f> textureCoordinates; ///< the third component counts for volume textures only
+    std::vector<RenderSign> signs;           ///< what points are drawn as, instead of squares or circles
     std::vector<std::uint32_t> indices;      ///< three, two or one per primitive; empty: 0, 1, 2, ...
     std::vector<std::uint32_t>
         outline; ///< pairs: the edges of the polygons that were cut into triangles; empty: all triangle edges

@@ -25,6 +25,9 @@ struct VEXEL_API SoShapeGeometry {
     /** For each vertex the index of the coordinate in the state that it came from; empty for shapes without. */
     std::vector<std::int32_t> coordinateIndices;
 
+    /** For each vertex the sign that it is drawn as where it is a point, by SoMarkerSet::markerOf(); empty for none. */
+    std::vector<std::int32_t> markers;
+
     /** Vertex indices: three for each triangle, two for each line segment, one for each point. */
     std::vector<std::uint32_t> triangles;
     std::vector<std::uint32_t> lines;

@@ -15,6 +15,9 @@ struct CompiledShape {
     static constexpr std::size_t NumKinds = 3;
     std::array<std::shared_ptr<const RenderGeometry>, NumKinds> geometries;
 
+    /** Pixels across the largest sign that a point is drawn as. */
+    float signSize = 0;
+
     // What a pick tells; as in SoShapeGeometry.
     std::vector<std::int32_t> triangleFaces;
     std::vector<std::int32_t> lineParts;

@@ -1,10 +1,12 @@
 #include <vexel/actions/detail/ShapeCache.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include <vexel/actions/detail/StateColors.h>
 #include <vexel/nodes/SoMaterialBinding.h>
 #include <vexel/nodes/SoShape.h>
+#include <vexel/nodes/detail/MarkerBitmaps.h>
 #include <vexel/state/SoShapeGeometry.h>
 #include <vexel/state/SoState.h>
 
@@ -43,6 +45,21 @@ std::vector<std::uint32_t> vertexColors(const SoState& state, const std::vector<
     return colors;
 }
 
+std::vector<RenderSign> signsOf(const std::vector<std::int32_t>& markers)
+{
+    std::vector<RenderSign> signs;
+    signs.reserve(markers.size());
+    for (const std::int32_t marker : markers) {
+        const MarkerBitmap& bitmap = markerBitmap(marker);
+        RenderSign sign;
+        sign.size = static_cast<std::uint32_t>(bitmap.size);
+        for (std::size_t row = 0; row < bitmap.rows.size(); ++row)
+            sign.setRow(row, bitmap.rows[row]);
+        signs.push_back(sign);
+    }
+    return signs;
+}
+
 std::shared_ptr<const CompiledShape> compile(const SoShape& shape, const SoState& state)
 {
     SoShapeGeometry from;
@@ -52,8 +69,11 @@ std::shared_ptr<const CompiledShape> compile(const SoShape& shape, const SoState
     shared.normals = std::move(from.normals);
     shared.textureCoordinates = std::move(from.textureCoordinates);
     shared.colors = vertexColors(state, from.materialIndices);
+    shared.signs = signsOf(from.markers);
 
     auto result = std::make_shared<CompiledShape>();
+    for (const RenderSign& sign : shared.signs)
+        result->signSize = std::max(result->signSize, static_cast<float>(sign.size));
     std::vector<std::uint32_t>* indices[] = {&from.triangles, &from.lines, &from.pointVertices};
     for (std::size_t kind = 0; kind < CompiledShape::NumKinds; ++kind) {
         if (indices[kind]->empty())

@@ -33,7 +33,7 @@ bool shorten(float atStart, float atEnd, float& from, float& to)
 } // namespace
 
 ScreenDistance::ScreenDistance(const SbMatrix& toClip, const SbVec3f& a, const SbVec3f& b)
-    : distance(std::numeric_limits<float>::infinity()), along(0)
+    : distance(std::numeric_limits<float>::infinity()), x(0), y(0), along(0)
 {
     const SbVec4f start = clipPoint(toClip, a);
     const SbVec4f end = clipPoint(toClip, b);
@@ -52,7 +52,9 @@ ScreenDistance::ScreenDistance(const SbMatrix& toClip, const SbVec3f& a, const S
     const float dy = q[1] / q[3] - py;
     const float squared = dx * dx + dy * dy;
     const float seen = squared > 0 ? std::clamp(-(px * dx + py * dy) / squared, 0.0f, 1.0f) : 0.0f;
-    distance = std::hypot(px + seen * dx, py + seen * dy);
+    x = px + seen * dx;
+    y = py + seen * dy;
+    distance = std::hypot(x, y);
     // What is half way on the screen is not half way in space: the farther half looks shorter.
     const float within = seen * p[3] / ((1 - seen) * q[3] + seen * p[3]);
     along = from + within * (to - from);

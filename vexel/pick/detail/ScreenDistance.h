@@ -11,6 +11,7 @@ struct ScreenDistance {
     ScreenDistance(const SbMatrix& toClip, const SbVec3f& a, const SbVec3f& b);
 
     float distance; ///< in normalized device coordinates; infinite when nothing of the line is in front of the viewer
+    float x, y;     ///< the nearest place, seen from the middle
     float along;    ///< place on the line itself: 0 at `a`, 1 at `b`
 };
 

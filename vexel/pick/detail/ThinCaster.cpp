@@ -1,6 +1,7 @@
 #include <vexel/pick/detail/ThinCaster.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include <vexel/pick/PickQuery.h>
 #include <vexel/pick/detail/ScreenDistance.h>
@@ -23,6 +24,12 @@ InstanceRecord recordOf(const SbMatrix& matrix)
 Frustum frustumOf(const SbMatrix& circle, float reach)
 {
     return Frustum::ofClipRectangle(circle[0], -reach, -reach, reach, reach);
+}
+
+/** Whether the middle of the circle is on the square that a sign fills. */
+bool isOnSign(const PickQuery& query, const RenderSign& sign, const ScreenDistance& place)
+{
+    return std::max(std::fabs(place.x), std::fabs(place.y)) <= query.pixels(0.5f * static_cast<float>(sign.size));
 }
 
 } // namespace
@@ -96,6 +103,7 @@ void ThinCaster::search(const PickQuery& query, const SbMatrix& circle, std::uin
     const float reach = query.reach(picked.pixelSize);
     const RenderGeometry& geometry = *picked.geometry;
     const std::vector<SbVec3f>& positions = geometry.arrays().positions;
+    const std::vector<RenderSign>& signs = geometry.arrays().signs;
     const bool lines = geometry.primitive() == RenderPrimitive::Lines;
     const SbMatrix to_circle = picked.matrix * circle;
     const auto test = [&](std::uint32_t primitive) {
@@ -103,7 +111,9 @@ void ThinCaster::search(const PickQuery& query, const SbMatrix& circle, std::uin
         const SbVec3f& a = positions[vertices[0]];
         const SbVec3f& b = positions[vertices[lines ? 1 : 0]];
         const ScreenDistance nearest(to_circle, a, b);
-        if (!(nearest.distance <= reach))
+        const bool isHit = signs.empty() ? nearest.distance <= reach
+                                         : nearest.distance <= 1 || isOnSign(query, signs[vertices[0]], nearest);
+        if (!isHit)
             return;
         PickHit hit{item, picked.tag, primitive, {1 - nearest.along, lines ? nearest.along : 0, 0}, {}, 0};
         picked.matrix.multVecMatrix(a * (1 - nearest.along) + b * nearest.along, hit.point);

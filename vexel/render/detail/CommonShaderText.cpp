@@ -67,6 +67,9 @@ $end
 #if TOPOLOGY == WIDE_LINES
     noperspective vec3 stroke; // pixels along and across the line, and its length
 #endif
+#if SIGNS
+    flat uvec4 sign; // three rows of nine bits each; w: its size
+#endif
 #if OUTPUT == ONE_COLOR
     float unused; // a block must not be empty
 #endif

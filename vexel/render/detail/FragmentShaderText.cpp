@@ -145,6 +145,11 @@ void main()
     if (distance(gl_PointCoord, vec2(0.5)) > 0.5)
         discard;
 #endif
+#if SIGNS
+    ivec2 cell = clamp(ivec2(gl_PointCoord * float(surface.sign.w)), 0, int(surface.sign.w) - 1);
+    if ((surface.sign[cell.y / 3] >> uint(cell.y % 3 * 9 + cell.x) & 1u) == 0u)
+        discard;
+#endif
 #if OUTPUT == LAYER
     ivec2 pixel = ivec2(gl_FragCoord.xy - viewport.xy);
     if (gl_FragCoord.z <= texelFetch(layerDepth, pixel, DEPTH_PART).x || gl_FragCoord.z >= texelFetch(opaqueDepth, pixel, DEPTH_PART).x)

@@ -44,11 +44,11 @@ GeometryBuffers::GeometryBuffers(const RenderGeometry& geometry)
     : m_vertexCount(geometry.arrays().positions.size()), m_hasNormals(!geometry.arrays().normals.empty()),
       m_hasColors(!geometry.arrays().colors.empty()),
       m_hasTextureCoordinates(!geometry.arrays().textureCoordinates.empty()),
-      m_primitiveMode(modeOf(geometry.primitive()))
+      m_hasSigns(!geometry.arrays().signs.empty()), m_primitiveMode(modeOf(geometry.primitive()))
 {
     const RenderGeometryArrays& arrays = geometry.arrays();
     const std::size_t bytes = m_vertexCount * (sizeof(SbVec3f) * (1 + m_hasNormals + m_hasTextureCoordinates) +
-                                               sizeof(std::uint32_t) * m_hasColors);
+                                               sizeof(std::uint32_t) * m_hasColors + sizeof(RenderSign) * m_hasSigns);
     glGenBuffers(1, &m_vertexBuffer);
     glBindBuffer(GL_ARRAY_BUFFER, m_vertexBuffer);
     glBufferData(GL_ARRAY_BUFFER, bytes, nullptr, GL_STATIC_DRAW);
@@ -57,6 +57,7 @@ GeometryBuffers::GeometryBuffers(const RenderGeometry& geometry)
     append(position, arrays.normals);
     append(position, arrays.textureCoordinates);
     append(position, arrays.colors);
+    append(position, arrays.signs);
     makeIndexBuffer(m_primitives, arrays.indices.data(), arrays.indices.size());
 }
 
@@ -77,6 +78,11 @@ void GeometryBuffers::describeVertices() const
     if (m_hasColors) {
         glEnableVertexAttribArray(ColorAttribute);
         glVertexAttribPointer(ColorAttribute, 4, GL_UNSIGNED_BYTE, GL_TRUE, 4, offset(position));
+        position += m_vertexCount * sizeof(std::uint32_t);
+    }
+    if (m_hasSigns) {
+        glEnableVertexAttribArray(SignAttribute);
+        glVertexAttribIPointer(SignAttribute, 4, GL_UNSIGNED_INT, sizeof(RenderSign), offset(position));
     }
     for (GLuint attribute = RowsAttribute; attribute <= MaterialAttribute; ++attribute) {
         glEnableVertexAttribArray(attribute);

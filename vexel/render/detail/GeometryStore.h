@@ -18,6 +18,7 @@ public:
 
     bool hasNormals() const { return m_hasNormals; }
     bool hasColors() const { return m_hasColors; }
+    bool hasSigns() const { return m_hasSigns; }
 
     /** Draws `count` instances whose records start at number `first` of the instance buffer. */
     void draw(const RenderGeometry& geometry, Part part, unsigned instanceBuffer, std::uint32_t first,
@@ -42,6 +43,7 @@ private:
     bool m_hasNormals;
     bool m_hasColors;
     bool m_hasTextureCoordinates;
+    bool m_hasSigns;
     unsigned m_primitiveMode;
     IndexBuffer m_primitives;
     IndexBuffer m_edges; // made when edges are drawn first

@@ -80,8 +80,9 @@ static_assert(static_cast<int>(RenderTexture::Model::Bump) == TextureKnob::Bump,
 
 bool PacketDrawer::Bound::operator==(const Bound& other) const
 {
-    return std::tie(state, shiny, mirrored, normals, colors, primitive) ==
-           std::tie(other.state, other.shiny, other.mirrored, other.normals, other.colors, other.primitive);
+    return std::tie(state, shiny, mirrored, normals, colors, signs, primitive) ==
+           std::tie(other.state, other.shiny, other.mirrored, other.normals, other.colors, other.signs,
+                    other.primitive);
 }
 
 PacketDrawer::PacketDrawer(GeometryStore& geometries, ProgramCache& programs, TextureStore& textures,
@@ -109,7 +110,8 @@ ProgramKey PacketDrawer::keyFor(const Bound& bound, const RenderState& state, Pa
     key[ProgramKnob::Topology] = topology;
     key[ProgramKnob::Output] = pass.output;
     key[ProgramKnob::Multisampled] = pass.multisampled;
-    key[ProgramKnob::RoundPoints] = topology == ProgramKey::Points && style.roundPoints;
+    key[ProgramKnob::Signs] = bound.primitive == RenderPrimitive::Points && bound.signs;
+    key[ProgramKnob::RoundPoints] = topology == ProgramKey::Points && style.roundPoints && !key[ProgramKnob::Signs];
     if (pass.output != ProgramKey::OneColor) {
         const bool surface = topology == ProgramKey::Triangles;
         key[ProgramKnob::Lit] = style.lit && pass.lighting && (surface || bound.normals);
@@ -171,8 +173,13 @@ void PacketDrawer::draw(const DrawListData& list, const std::vector<DrawCommand>
     for (const DrawCommand& command : commands) {
         const BatchKey& batch = command.batch->key();
         GeometryBuffers& buffers = m_geometries.buffers(*batch.geometry);
-        const Bound wanted{batch.state,          batch.shiny,         batch.mirrored,
-                           buffers.hasNormals(), buffers.hasColors(), batch.geometry->primitive()};
+        const Bound wanted{batch.state,
+                           batch.shiny,
+                           batch.mirrored,
+                           buffers.hasNormals(),
+                           buffers.hasColors(),
+                           buffers.hasSigns(),
+                           batch.geometry->primitive()};
         if (!bound || !(*bound == wanted)) {
             const RenderState& state = list.state(*command.batch);
             const bool surface = wanted.primitive == RenderPrimitive::Triangles;

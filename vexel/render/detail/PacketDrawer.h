@@ -50,6 +50,7 @@ private:
         bool mirrored;
         bool normals;
         bool colors;
+        bool signs;
         RenderPrimitive primitive;
         bool operator==(const Bound& other) const;
     };

@@ -25,6 +25,7 @@ enum class ProgramKnob : std::uint8_t {
     ClipPlanes,
     Fog,
     RoundPoints,
+    Signs,
     Multisampled,
     Count
 };

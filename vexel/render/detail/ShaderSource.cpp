@@ -7,9 +7,9 @@ namespace vexel {
 namespace {
 
 const char* const KnobNames[ProgramKey::Count] = {
-    "TOPOLOGY", "OUTPUT",   "LIT",         "TWO_SIDED", "FACET_NORMALS", "VERTEX_COLORS",
-    "SHINY",    "TEXTURE0", "TEXTURE1",    "TEXTURE2",  "TEXTURE3",      "DIRECTIONAL",
-    "POINT",    "SPOT",     "CLIP_PLANES", "FOG",       "ROUND_POINTS",  "MULTISAMPLED"};
+    "TOPOLOGY",    "OUTPUT",   "LIT",          "TWO_SIDED", "FACET_NORMALS", "VERTEX_COLORS", "SHINY",
+    "TEXTURE0",    "TEXTURE1", "TEXTURE2",     "TEXTURE3",  "DIRECTIONAL",   "POINT",         "SPOT",
+    "CLIP_PLANES", "FOG",      "ROUND_POINTS", "SIGNS",     "MULTISAMPLED"};
 
 std::string define(const std::string& name, int value)
 {

@@ -22,7 +22,8 @@ enum VertexAttribute {
     ColorAttribute,
     TextureAttribute,
     RowsAttribute,
-    MaterialAttribute = RowsAttribute + 3
+    MaterialAttribute = RowsAttribute + 3,
+    SignAttribute
 };
 
 /** Binding points of the uniform blocks, and texture units. */

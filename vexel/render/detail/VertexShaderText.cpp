@@ -11,6 +11,9 @@ layout(location = 4) in vec4 rowX;
 layout(location = 5) in vec4 rowY;
 layout(location = 6) in vec4 rowZ;
 layout(location = 7) in uvec4 material;
+#if SIGNS
+layout(location = 8) in uvec4 sign;
+#endif
 
 uniform float pointSize;
 $each texture
@@ -73,7 +76,14 @@ $end
     surface.shine = unpackColor(material.w);
 #endif
 #endif
-#if TOPOLOGY == POINTS
+#if SIGNS
+    gl_PointSize = float(sign.w);
+    surface.sign = sign;
+    // In the middle of a pixel, so that the pixels of the sign are those of the screen.
+    vec2 extent = 0.5 * viewport.zw;
+    if (gl_Position.w > 0.0)
+        gl_Position.xy = (floor((gl_Position.xy / gl_Position.w + 1.0) * extent) + 0.5 - extent) / extent * gl_Position.w;
+#elif TOPOLOGY == POINTS
     gl_PointSize = pointSize;
 #endif
 #if TOPOLOGY == WIDE_LINES
