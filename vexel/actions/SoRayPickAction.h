@@ -13,7 +13,10 @@ class CompiledScene;
 class PickQuery;
 } // namespace vexel
 
-/** Finds what stands at a place of the picture, or what a ray meets; the nearest first. */
+/**
+ * Finds what stands at a place of the picture, or what a ray meets: what is below annotations first, as it is drawn in
+ * front, and each time the nearest first.
+ */
 class VEXEL_API SoRayPickAction : public SoAction {
     SO_ACTION(SoRayPickAction, SoAction)
 public:

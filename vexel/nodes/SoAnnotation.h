@@ -2,7 +2,7 @@
 
 #include <vexel/nodes/SoSeparator.h>
 
-/** A separator that is drawn last, in front of everything else. */
+/** A separator that is drawn last, and picked first, in front of everything else. */
 class VEXEL_API SoAnnotation : public SoSeparator {
     SO_NODE(SoAnnotation, SoSeparator)
 public:

@@ -10,18 +10,26 @@
 namespace vexel {
 
 struct PickScene::Data {
+    /** Items that hide each other by their distance. */
+    struct Layer {
+        explicit Layer(const PickItems& items) : triangles(items), thin(items) {}
+
+        TriangleCaster triangles;
+        ThinCaster thin;
+    };
+
     PickItems items;
-    TriangleCaster triangles{items};
-    ThinCaster thin{items};
+    Layer layers[2] = {Layer(items), Layer(items)}; ///< those in front first
 
     /** Calls `what` with the caster that is responsible for the item. */
     template <typename What>
     void withCaster(Item item, What&& what)
     {
+        Layer& layer = layers[items[item].inFront ? 0 : 1];
         if (items[item].geometry->primitive() == RenderPrimitive::Triangles)
-            what(triangles);
+            what(layer.triangles);
         else
-            what(thin);
+            what(layer.thin);
     }
 };
 
@@ -73,12 +81,16 @@ std::optional<PickHit> PickScene::closest(const PickQuery& query)
 {
     if (!query.isValid())
         return std::nullopt;
-    std::vector<PickHit> candidates;
-    m_data->thin.findAll(query, candidates);
-    if (const std::optional<PickHit> surface = m_data->triangles.closest(query))
-        candidates.push_back(*surface);
-    const auto nearest = std::min_element(candidates.begin(), candidates.end(), isNearer);
-    return nearest != candidates.end() ? std::optional<PickHit>(*nearest) : std::nullopt;
+    for (Data::Layer& layer : m_data->layers) {
+        std::vector<PickHit> candidates;
+        layer.thin.findAll(query, candidates);
+        if (const std::optional<PickHit> surface = layer.triangles.closest(query))
+            candidates.push_back(*surface);
+        const auto nearest = std::min_element(candidates.begin(), candidates.end(), isNearer);
+        if (nearest != candidates.end())
+            return *nearest;
+    }
+    return std::nullopt;
 }
 
 std::vector<PickHit> PickScene::all(const PickQuery& query)
@@ -86,9 +98,12 @@ std::vector<PickHit> PickScene::all(const PickQuery& query)
     std::vector<PickHit> hits;
     if (!query.isValid())
         return hits;
-    m_data->triangles.findAll(query, hits);
-    m_data->thin.findAll(query, hits);
-    std::stable_sort(hits.begin(), hits.end(), isNearer);
+    for (Data::Layer& layer : m_data->layers) {
+        const auto before = static_cast<std::ptrdiff_t>(hits.size());
+        layer.triangles.findAll(query, hits);
+        layer.thin.findAll(query, hits);
+        std::stable_sort(hits.begin() + before, hits.end(), isNearer);
+    }
     return hits;
 }
 

@@ -21,6 +21,7 @@ struct PickItem {
     SbMatrix matrix;                                        ///< from the shape's space to the world; affine
     std::shared_ptr<const RenderSurroundings> surroundings; ///< its clip planes hide what they cut away
     float pixelSize = 1;   ///< width of lines, size of points: what is seen can be hit, also beyond the radius
+    bool inFront = false;  ///< seen before everything that is not, whatever the distances
     std::uint64_t tag = 0; ///< the caller's own mark
 };
 
@@ -53,10 +54,11 @@ public:
     void setGeometry(Item item, std::shared_ptr<const RenderGeometry> geometry);
     const PickItem& item(Item item) const;
 
-    /** The hit that is nearest to the start of the ray. */
+    /** The hit that is seen first: the one nearest to the start of the ray, unless others are in front. */
     std::optional<PickHit> closest(const PickQuery& query);
 
-    /** All hits, nearest first. A closed surface is hit where the ray enters and where it leaves. */
+    /** All hits, those in front first, each time the nearest first. A closed surface is hit where the ray enters and
+     * where it leaves. */
     std::vector<PickHit> all(const PickQuery& query);
 
 private:

@@ -4,6 +4,7 @@
 #include <vexel/actions/SoRayPickAction.h>
 #include <vexel/base/SbString.h>
 #include <vexel/base/SoPath.h>
+#include <vexel/nodes/SoAnnotation.h>
 #include <vexel/nodes/SoSeparator.h>
 
 namespace {
@@ -55,6 +56,35 @@ TEST_F(RayPick, AllHitsComeNearestFirst)
     EXPECT_NEAR(2.5f, pick.getPickedPoint(0)->getPoint()[2], 1e-3f);
     EXPECT_NEAR(-0.5f, pick.getPickedPoint(3)->getPoint()[2], 1e-3f);
     EXPECT_FALSE(pick.getPickedPoint(4));
+}
+
+TEST_F(RayPick, AnnotationsAreInFront)
+{
+    read("Annotation { Translation { translation 0 0 -3 } Cube { width 0.5 height 0.5 depth 1 } }"
+         "Cube { width 1 height 1 depth 1 } Separator { Translation { translation 0 0 2 } Cube { width 0.5 } }");
+    const SoPickedPoint* point = pickAt(0.1f, 0.2f);
+    ASSERT_TRUE(point);
+    EXPECT_EQ(root->getChild(2), point->getPath()->getNode(1));
+    pick.setPickAll(true);
+    ASSERT_TRUE(pickAt(0.1f, 0.2f));
+    ASSERT_EQ(6u, pick.getPickedPointList().size());
+    EXPECT_EQ(root->getChild(2), pick.getPickedPoint(1)->getPath()->getNode(1));
+    EXPECT_EQ(root->getChild(4), pick.getPickedPoint(2)->getPath()->getNode(1));
+    EXPECT_EQ(root->getChild(3), pick.getPickedPoint(5)->getPath()->getNode(1));
+    EXPECT_EQ(root->getChild(3), pickAt(0.4f, 0.4f)->getPath()->getNode(1));
+}
+
+TEST_F(RayPick, WhatBecomesAnAnnotationComesToTheFront)
+{
+    read("Separator { Translation { translation 0 0 -2 } Separator { Cube { width 0.5 height 0.5 } } } Cube { depth 1 "
+         "}");
+    ASSERT_TRUE(pickAt(0, 0));
+    EXPECT_EQ(root->getChild(3), pickAt(0, 0)->getPath()->getTail());
+    auto* group = static_cast<SoSeparator*>(root->getChild(2));
+    auto* front = new SoAnnotation;
+    front->addChild(static_cast<SoSeparator*>(group->getChild(1))->getChild(0));
+    group->replaceChild(1, front);
+    EXPECT_EQ(front, pickAt(0, 0)->getPath()->getNode(2));
 }
 
 TEST_F(RayPick, RaysNeedNoCamera)

@@ -235,6 +235,7 @@ void SceneCompiler::visitShape(SoShape& node)
     shape.material = materialOf(values);
     shape.surroundings = m_surroundings.get(state());
     shape.pixelSize = std::max({1.0f, values.lineWidth, values.pointSize, shape.shape->signSize});
+    shape.isInFront = values.isAnnotation;
     shape.picking = static_cast<SceneShape::Picking>(std::clamp(values.pickStyle, 0, int(SceneShape::Picking::Never)));
     RenderState renderState;
     renderState.style = styleOf(values, node);

@@ -130,7 +130,8 @@ void SceneTree::updateItems(SceneShape& shape, std::uint32_t index)
             geometry = boxGeometry(geometry->bounds());
         if (item != SceneShape::None) {
             const PickItem& present = m_pickScene->item(item);
-            if (geometry && present.surroundings == shape.surroundings && present.pixelSize == shape.pixelSize) {
+            if (geometry && present.surroundings == shape.surroundings && present.pixelSize == shape.pixelSize &&
+                present.inFront == shape.isInFront) {
                 if (present.geometry != geometry)
                     m_pickScene->setGeometry(item, geometry);
                 if (present.matrix != shape.matrix)
@@ -141,7 +142,8 @@ void SceneTree::updateItems(SceneShape& shape, std::uint32_t index)
             item = SceneShape::None;
         }
         if (geometry)
-            item = m_pickScene->add({geometry, shape.matrix, shape.surroundings, shape.pixelSize, index});
+            item =
+                m_pickScene->add({geometry, shape.matrix, shape.surroundings, shape.pixelSize, shape.isInFront, index});
     }
 }
 

@@ -59,6 +59,7 @@ struct SceneShape {
     RenderMaterial material;
     std::shared_ptr<const RenderSurroundings> surroundings;
     float pixelSize = 1;
+    bool isInFront = false; ///< of everything that is not
     Picking picking = Picking::Shape;
     DrawList::Segment segment = 0;
     std::array<std::uint32_t, CompiledShape::NumKinds> packets{None, None, None};
