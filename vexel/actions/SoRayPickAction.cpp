@@ -5,6 +5,7 @@
 #include <vexel/actions/SoPickedPoint.h>
 #include <vexel/actions/detail/CompiledScene.h>
 #include <vexel/actions/detail/PickedPoints.h>
+#include <vexel/actions/detail/StateTranslation.h>
 #include <vexel/nodes/SoNode.h>
 #include <vexel/pick/PickQuery.h>
 #include <vexel/render/RenderView.h>
@@ -65,10 +66,15 @@ PickQuery SoRayPickAction::queryFor(const CompiledScene& scene) const
     if (m_aim == Aim::Ray)
         return PickQuery::alongRay(m_origin, m_direction, m_radius, m_nearest, m_farthest);
     const RenderView view = scene.view();
-    const float scaleX = m_aim == Aim::Viewport ? static_cast<float>(view.viewport.width) : 1;
-    const float scaleY = m_aim == Aim::Viewport ? static_cast<float>(view.viewport.height) : 1;
-    return PickQuery::atPixel(view, static_cast<float>(view.viewport.x) + m_point[0] * scaleX,
-                              static_cast<float>(view.viewport.y) + m_point[1] * scaleY, m_radius);
+    const RenderViewport whole = viewportOf(getViewportRegion());
+    const float scaleX = m_aim == Aim::Viewport ? static_cast<float>(whole.width) : 1;
+    const float scaleY = m_aim == Aim::Viewport ? static_cast<float>(whole.height) : 1;
+    const float x = static_cast<float>(whole.x) + m_point[0] * scaleX;
+    const float y = static_cast<float>(whole.y) + m_point[1] * scaleY;
+    // Nothing is seen beside the part of the viewport that the view fills.
+    if (view.frame && !view.viewport.contains(x, y))
+        return PickQuery();
+    return PickQuery::atPixel(view, x, y, m_radius);
 }
 
 void SoRayPickAction::pick(CompiledScene& scene)

@@ -1,6 +1,7 @@
 #include <vexel/nodes/SoCamera.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include <vexel/actions/SoGetBoundingBoxAction.h>
 #include <vexel/base/SbBox3f.h>
@@ -8,16 +9,6 @@
 #include <vexel/base/SbViewportRegion.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/state/SoState.h>
-
-namespace {
-
-bool isCropping(int mapping)
-{
-    return mapping == SoCamera::CROP_VIEWPORT_FILL_FRAME || mapping == SoCamera::CROP_VIEWPORT_LINE_FRAME ||
-           mapping == SoCamera::CROP_VIEWPORT_NO_FRAME;
-}
-
-} // namespace
 
 SbVec3f SoCamera::getViewDirection() const
 {
@@ -56,8 +47,7 @@ void SoCamera::pointAt(const SbVec3f& target, const SbVec3f& up)
 
 SbViewVolume SoCamera::getViewVolume(const SbViewportRegion& region) const
 {
-    const int mapping = viewportMapping.getValue();
-    if (isCropping(mapping) || mapping == LEAVE_ALONE)
+    if (isCropping() || viewportMapping.getValue() == LEAVE_ALONE)
         return getViewVolume();
     const float aspect = region.getViewportAspectRatio();
     SbViewVolume volume = getViewVolume(aspect);
@@ -65,6 +55,29 @@ SbViewVolume SoCamera::getViewVolume(const SbViewportRegion& region) const
     if (aspect > 0 && aspect < 1)
         volume.scale(1 / aspect);
     return volume;
+}
+
+bool SoCamera::isCropping() const
+{
+    const int mapping = viewportMapping.getValue();
+    return mapping == CROP_VIEWPORT_FILL_FRAME || mapping == CROP_VIEWPORT_LINE_FRAME ||
+           mapping == CROP_VIEWPORT_NO_FRAME;
+}
+
+SbViewportRegion SoCamera::getViewportBounds(const SbViewportRegion& region) const
+{
+    const float aspect = aspectRatio.getValue();
+    const SbVec2s whole = region.getViewportSizePixels();
+    if (!isCropping() || !(aspect > 0) || whole[0] < 1 || whole[1] < 1)
+        return region;
+    SbVec2s part = whole;
+    if (aspect < region.getViewportAspectRatio())
+        part[0] = std::max<short>(1, static_cast<short>(std::lround(static_cast<float>(whole[1]) * aspect)));
+    else
+        part[1] = std::max<short>(1, static_cast<short>(std::lround(static_cast<float>(whole[0]) / aspect)));
+    SbViewportRegion bounds = region;
+    bounds.setViewportPixels(region.getViewportOriginPixels() + (whole - part) / 2, part);
+    return bounds;
 }
 
 void SoCamera::viewAll(SoNode* root, const SbViewportRegion& region, float slack)
@@ -110,5 +123,6 @@ void SoCamera::doAction(SoAction& action)
     }
     state->camera = this;
     state->viewVolume = volume;
+    state->viewPixels = getViewportBounds(state.getViewportRegion()).getViewportSizePixels();
     action.visitCamera(*this);
 }

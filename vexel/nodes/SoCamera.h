@@ -20,11 +20,11 @@ class VEXEL_API SoCamera : public SoNode {
     SO_NODE_ABSTRACT(SoCamera, SoNode)
 public:
     enum ViewportMapping {
-        CROP_VIEWPORT_FILL_FRAME,
-        CROP_VIEWPORT_LINE_FRAME,
-        CROP_VIEWPORT_NO_FRAME,
-        ADJUST_CAMERA, /**< the view takes the viewport's form */
-        LEAVE_ALONE    /**< the view keeps aspectRatio and is stretched */
+        CROP_VIEWPORT_FILL_FRAME, /**< the view keeps aspectRatio in a part of the viewport; the rest is grey */
+        CROP_VIEWPORT_LINE_FRAME, /**< the same, with a grey line around the view and the background outside */
+        CROP_VIEWPORT_NO_FRAME,   /**< the same without the line */
+        ADJUST_CAMERA,            /**< the view takes the viewport's form */
+        LEAVE_ALONE               /**< the view keeps aspectRatio and is stretched */
     };
     static constexpr SoEnumEntry ViewportMapping_names[] = {{"CROP_VIEWPORT_FILL_FRAME", CROP_VIEWPORT_FILL_FRAME},
                                                             {"CROP_VIEWPORT_LINE_FRAME", CROP_VIEWPORT_LINE_FRAME},
@@ -53,6 +53,10 @@ public:
     virtual SbViewVolume getViewVolume(float aspect = 0) const = 0;
     /** The view for a viewport, as viewportMapping asks for. */
     SbViewVolume getViewVolume(const SbViewportRegion& region) const;
+    /** The part of a viewport that the view fills, as viewportMapping asks for: the middle of it, or all of it. */
+    SbViewportRegion getViewportBounds(const SbViewportRegion& region) const;
+    /** Whether viewportMapping keeps the view to a part of the viewport where it has another form. */
+    bool isCropping() const;
 
     /**
      * Moves the camera along its viewing direction and sets its distances so that the graph is seen as a whole.

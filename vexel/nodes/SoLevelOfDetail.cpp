@@ -22,7 +22,7 @@ int SoLevelOfDetail::whichToTraverse(const SoState& state) const
         return 0;
     box.transform(state->model);
     const SbVec2f part = state->viewVolume.projectBox(box);
-    const SbVec2s pixels = state.getViewportRegion().getViewportSizePixels();
+    const SbVec2s pixels = state.getViewPixels();
     const float area = part[0] * static_cast<float>(pixels[0]) * part[1] * static_cast<float>(pixels[1]);
     int child = 0;
     while (child < screenArea.getNum() && area < screenArea[child])

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <memory>
 
+#include <vexel/base/SbVec2f.h>
 #include <vexel/base/SbVec4f.h>
 
 namespace vexel {
@@ -16,7 +17,7 @@ struct RenderBackground {
         Solid,
         Gradient,  ///< vertical, `color` at the bottom, `topColor` at the top
         Stretched, ///< the image fills the viewport, over `color`
-        Centered,  ///< the image at its own size, over `color`
+        Placed,    ///< the image at its own size, over `color`
         Tiled      ///< the image again and again from the lower left corner
     };
 
@@ -24,6 +25,7 @@ struct RenderBackground {
     SbVec4f color{0, 0, 0, 1};
     SbVec4f topColor{0, 0, 0, 1};
     std::shared_ptr<const RenderImage> image;
+    SbVec2f place{0.5f, 0.5f}; ///< of a placed image: 0 at the left or bottom, 1 at the right or top
 };
 
 } // namespace vexel

@@ -126,6 +126,13 @@ void Renderer::draw(DrawList& list, const RenderView& view, const RenderOptions&
     ListCache& cache = m_data->prepare(list);
     if (options.clear)
         m_data->backgrounds.draw(list.background, view, m_data->textures);
+    drawScene(list, cache, view, options);
+    if (view.frame)
+        m_data->backgrounds.drawFrame(*view.frame, view.viewport);
+}
+
+void Renderer::drawScene(DrawList& list, ListCache& cache, const RenderView& view, const RenderOptions& options)
+{
 
     std::vector<std::uint32_t> scene;
     std::vector<std::uint32_t> annotations;

@@ -11,6 +11,8 @@
 
 namespace vexel {
 
+struct ListCache;
+
 /**
  * Draws lists with one OpenGL context (3.3 core or newer), into whatever framebuffer is bound.
  *
@@ -38,6 +40,8 @@ public:
 
 private:
     struct Data;
+    void drawScene(DrawList& list, ListCache& cache, const RenderView& view, const RenderOptions& options);
+
     std::unique_ptr<Data> m_data;
 };
 

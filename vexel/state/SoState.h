@@ -157,6 +157,8 @@ struct SoStateValues {
 
     const SoCamera* camera = nullptr;
     SbViewVolume viewVolume;
+    /** Size of the picture that the camera makes. */
+    SbVec2s viewPixels;
 
     /** Child that the switch above shows; what a switch with SO_SWITCH_INHERIT takes over. */
     int switchChild = -1;
@@ -209,6 +211,11 @@ public:
     /** Where the picture goes; the same for the whole traversal. */
     const SbViewportRegion& getViewportRegion() const { return m_viewport; }
     void setViewportRegion(const SbViewportRegion& region) { m_viewport = region; }
+    /** Size of the picture that the view volume in force stands for. */
+    SbVec2s getViewPixels() const
+    {
+        return m_values.back().camera ? m_values.back().viewPixels : m_viewport.getViewportSizePixels();
+    }
 
 private:
     std::vector<SoStateValues> m_values;

@@ -65,13 +65,32 @@ TEST_F(BackgroundTest, StretchedImageStandsUpright)
 
 TEST_F(BackgroundTest, CenteredImageKeepsItsSize)
 {
-    list.background.kind = RenderBackground::Kind::Centered;
+    list.background.kind = RenderBackground::Kind::Placed;
     list.background.color = SbVec4f(1, 1, 1, 1);
     list.background.image = corners();
     const QImage picture = draw();
     EXPECT_COLOR(picture.pixelColor(Size / 2 - 1, Size / 2), 255, 0, 0);
     EXPECT_COLOR(picture.pixelColor(Size / 2, Size / 2 - 1), 0, 255, 0);
     EXPECT_COLOR(picture.pixelColor(Size / 2 + 1, Size / 2), 255, 255, 255);
+}
+
+TEST_F(BackgroundTest, PlacedImageStandsInTheCornerThatIsAskedFor)
+{
+    list.background.kind = RenderBackground::Kind::Placed;
+    list.background.color = SbVec4f(1, 1, 1, 1);
+    list.background.image = corners();
+    for (const int right : {0, 1}) {
+        for (const int top : {0, 1}) {
+            list.background.place = SbVec2f(static_cast<float>(right), static_cast<float>(top));
+            const QImage picture = draw();
+            const int left = right ? Size - 2 : 0;
+            const int bottom = top ? 1 : Size - 1;
+            EXPECT_COLOR(picture.pixelColor(left, bottom), 255, 0, 0);
+            EXPECT_COLOR(picture.pixelColor(left + 1, bottom - 1), 0, 255, 0);
+            EXPECT_COLOR(picture.pixelColor(right ? left - 1 : left + 2, bottom), 255, 255, 255);
+            EXPECT_COLOR(picture.pixelColor(left, top ? bottom + 1 : bottom - 2), 255, 255, 255);
+        }
+    }
 }
 
 TEST_F(BackgroundTest, TiledImageStartsAtTheLowerLeftCorner)

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <vexel/actions/detail/SceneMarks.h>
+#include <vexel/actions/detail/StateTranslation.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/nodes/SoBackground.h>
 #include <vexel/nodes/SoCamera.h>
@@ -23,6 +24,18 @@ std::vector<std::pair<SoNode*, std::shared_ptr<CompiledScene>>>& keptScenes()
     // Never destroyed: sensors of scenes may outlive the statics that they need.
     static auto* scenes = new std::vector<std::pair<SoNode*, std::shared_ptr<CompiledScene>>>;
     return *scenes;
+}
+
+RenderFrame::Kind frameOf(const SoCamera& camera)
+{
+    switch (camera.viewportMapping.getValue()) {
+    case SoCamera::CROP_VIEWPORT_FILL_FRAME:
+        return RenderFrame::Kind::Fill;
+    case SoCamera::CROP_VIEWPORT_LINE_FRAME:
+        return RenderFrame::Kind::Line;
+    default:
+        return RenderFrame::Kind::None;
+    }
 }
 
 } // namespace
@@ -163,21 +176,26 @@ void CompiledScene::update(const SbViewportRegion& region)
 
     m_compiler.refreshView();
     const SbMatrix matrix = m_compiler.viewVolume().getMatrix();
-    if (m_compiler.usesView() && m_tree.root() && (isResized || matrix != m_viewMatrix)) {
+    const SbVec2s pixels = m_compiler.viewPixels();
+    if (m_compiler.usesView() && m_tree.root() && (isResized || matrix != m_viewMatrix || pixels != m_viewPixels)) {
         markViewScopes();
         if (m_isDirty)
             walk();
     }
     m_viewMatrix = matrix;
+    m_viewPixels = pixels;
 }
 
 RenderView CompiledScene::view() const
 {
     RenderView view;
     m_compiler.viewVolume().getMatrices(view.view, view.projection);
-    const SbVec2s origin = m_region.getViewportOriginPixels();
-    const SbVec2s size = m_region.getViewportSizePixels();
-    view.viewport = {origin[0], origin[1], size[0], size[1]};
+    view.viewport = viewportOf(m_region);
+    const SoCamera* camera = m_compiler.camera();
+    if (camera && camera->isCropping()) {
+        view.frame = {frameOf(*camera), view.viewport};
+        view.viewport = viewportOf(camera->getViewportBounds(m_region));
+    }
     return view;
 }
 

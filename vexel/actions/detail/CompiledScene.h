@@ -49,6 +49,7 @@ private:
     SoPath* m_path = nullptr;
     SbViewportRegion m_region;
     SbMatrix m_viewMatrix;
+    SbVec2s m_viewPixels;
     bool m_isStale = true; ///< nothing of it can be kept
     bool m_isDirty = true;
     bool m_lightsChanged = false;

@@ -262,6 +262,7 @@ void SceneCompiler::visitCamera(const SoCamera& camera)
         m_camera.model = state()->model;
     }
     m_camera.volume = state()->viewVolume;
+    m_camera.pixels = state().getViewPixels();
 }
 
 void SceneCompiler::addCallback(SoCallback& callback)
@@ -308,6 +309,7 @@ DrawList::Segment SceneCompiler::segmentFor(const SoStateValues& values)
         if (isSecondView) {
             description.view.emplace();
             values.viewVolume.getMatrices(description.view->view, description.view->projection);
+            description.view->viewport = viewportOf(values.camera->getViewportBounds(state().getViewportRegion()));
         }
         segment = m_tree.drawList().addSegment(std::move(description));
         m_segments.push_back(segment);

@@ -40,7 +40,9 @@ public:
 
     /** View of the first camera; the default volume without one. */
     const SbViewVolume& viewVolume() const { return m_camera.volume; }
-    bool hasCamera() const { return m_camera.node != nullptr; }
+    const SbVec2s& viewPixels() const { return m_camera.pixels; }
+    /** The first camera; null for none. */
+    const SoCamera* camera() const { return m_camera.node; }
     /** True when the order of the graph matters beyond single places, so that a change needs a walk from scratch. */
     bool isOrdered() const { return m_hasCallbacks || m_numCameras > 1; }
     /** True when something has its size or form from the camera. */
@@ -76,6 +78,7 @@ private:
         SbUniqueId scopeId = 0;
         SbMatrix model;
         SbViewVolume volume;
+        SbVec2s pixels;
     };
 
     void visitScope(SoNode& node);

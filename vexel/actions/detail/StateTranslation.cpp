@@ -23,6 +23,18 @@ using Style = RenderStyle;
 constexpr Depth DepthFunctions[] = {Depth::Less,  Depth::LessEqual,    Depth::Never,   Depth::Always,
                                     Depth::Equal, Depth::GreaterEqual, Depth::Greater, Depth::NotEqual};
 
+struct ImageStyle {
+    RenderBackground::Kind kind;
+    SbVec2f place;
+};
+
+// By SoImageBackground::Style.
+const ImageStyle ImageStyles[] = {
+    {RenderBackground::Kind::Solid, {}},      {RenderBackground::Kind::Placed, {0.5f, 0.5f}},
+    {RenderBackground::Kind::Placed, {0, 0}}, {RenderBackground::Kind::Placed, {0, 1}},
+    {RenderBackground::Kind::Placed, {1, 1}}, {RenderBackground::Kind::Placed, {1, 0}},
+    {RenderBackground::Kind::Stretched, {}},  {RenderBackground::Kind::Tiled, {}}};
+
 // A field may hold a number that its enumeration does not have; it counts as the first one that it has.
 int known(int value, int count)
 {
@@ -35,6 +47,13 @@ SbVec4f opaque(const SbColor& color)
 }
 
 } // namespace
+
+RenderViewport viewportOf(const SbViewportRegion& region)
+{
+    const SbVec2s origin = region.getViewportOriginPixels();
+    const SbVec2s size = region.getViewportSizePixels();
+    return {origin[0], origin[1], size[0], size[1]};
+}
 
 RenderStyle styleOf(const SoStateValues& values, const SoShape& shape)
 {
@@ -104,18 +123,11 @@ RenderBackground backgroundOf(const SoGradientBackground& node)
 RenderBackground backgroundOf(const SoImageBackground& node, std::shared_ptr<const RenderImage> image)
 {
     RenderBackground background;
-    if (!image || node.style.getValue() == SoImageBackground::NONE)
+    if (!image)
         return background;
-    switch (node.style.getValue()) {
-    case SoImageBackground::STRETCHED:
-        background.kind = RenderBackground::Kind::Stretched;
-        break;
-    case SoImageBackground::TILED:
-        background.kind = RenderBackground::Kind::Tiled;
-        break;
-    default:
-        background.kind = RenderBackground::Kind::Centered;
-    }
+    const ImageStyle& style = ImageStyles[known(node.style.getValue(), int(std::size(ImageStyles)))];
+    background.kind = style.kind;
+    background.place = style.place;
     background.image = std::move(image);
     return background;
 }

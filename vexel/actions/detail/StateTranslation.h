@@ -5,7 +5,9 @@
 #include <vexel/render/RenderBackground.h>
 #include <vexel/render/RenderMaterial.h>
 #include <vexel/render/RenderState.h>
+#include <vexel/render/RenderView.h>
 
+class SbViewportRegion;
 class SoGradientBackground;
 class SoImageBackground;
 class SoShape;
@@ -15,6 +17,7 @@ namespace vexel {
 
 // What the values of the traversal state are in terms of drawing.
 
+RenderViewport viewportOf(const SbViewportRegion& region);
 RenderStyle styleOf(const SoStateValues& values, const SoShape& shape);
 /** The first material; further ones are colours of vertices. */
 RenderMaterial materialOf(const SoStateValues& values);

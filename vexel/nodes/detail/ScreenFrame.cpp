@@ -24,7 +24,7 @@ void ScreenFrame::moveTo(const SbVec3f& point)
     float distance = (place - view.getProjectionPoint()).dot(direction);
     if (view.getProjectionType() == SbViewVolume::PERSPECTIVE)
         distance = std::max(distance, view.getNearDist());
-    const SbVec2s pixels = m_state.getViewportRegion().getViewportSizePixels();
+    const SbVec2s pixels = m_state.getViewPixels();
     const SbVec3f corner = view.getPlanePoint(distance, SbVec2f(0, 0));
     const SbVec3f right = view.getPlanePoint(distance, SbVec2f(1, 0)) - corner;
     const SbVec3f up = view.getPlanePoint(distance, SbVec2f(0, 1)) - corner;

@@ -1,5 +1,7 @@
 #include <vexel/render/detail/BackgroundDrawer.h>
 
+#include <cmath>
+
 #include <epoxy/gl.h>
 
 #include <vexel/render/RenderTexture.h>
@@ -53,8 +55,11 @@ ScissorScope::~ScissorScope()
 
 BackgroundDrawer::BackgroundDrawer() : m_gradient(GradientFragment), m_image(ImageFragment) {}
 
-void BackgroundDrawer::draw(const RenderBackground& background, const RenderView& view, TextureStore& textures)
+void BackgroundDrawer::draw(const RenderBackground& background, const RenderView& from, TextureStore& textures)
 {
+    RenderView view = from;
+    if (view.frame)
+        view.viewport = view.frame->whole;
     const ScissorScope scissor(view.viewport);
     glViewport(view.viewport.x, view.viewport.y, view.viewport.width, view.viewport.height);
     glDepthMask(GL_TRUE);
@@ -93,9 +98,12 @@ void BackgroundDrawer::drawImage(const RenderBackground& background, const Rende
         scale[0] = picture[0] / background.image->width();
         scale[1] = picture[1] / background.image->height();
     }
-    if (background.kind == RenderBackground::Kind::Centered) {
-        shift[0] = 0.5f - 0.5f * scale[0];
-        shift[1] = 0.5f - 0.5f * scale[1];
+    if (background.kind == RenderBackground::Kind::Placed) {
+        // By whole pixels, so that none of the image are lost.
+        const float size[2] = {static_cast<float>(background.image->width()),
+                               static_cast<float>(background.image->height())};
+        for (int axis = 0; axis < 2; ++axis)
+            shift[axis] = -std::floor((scale[axis] - 1) * size[axis] * background.place[axis]) / size[axis];
     }
     glEnable(GL_BLEND);
     glBlendFunc(GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
@@ -106,6 +114,31 @@ void BackgroundDrawer::drawImage(const RenderBackground& background, const Rende
     glUniform2fv(m_image.uniform("shift"), 1, shift);
     m_image.draw();
     glDisable(GL_BLEND);
+}
+
+void BackgroundDrawer::drawFrame(const RenderFrame& frame, const RenderViewport& picture)
+{
+    if (frame.kind == RenderFrame::Kind::None)
+        return;
+    const RenderViewport& whole = frame.whole;
+    const bool isLine = frame.kind == RenderFrame::Kind::Line;
+    // Four stripes: outside of the picture, or along its border.
+    const int left = isLine ? 1 : picture.x - whole.x;
+    const int bottom = isLine ? 1 : picture.y - whole.y;
+    const int right = isLine ? 1 : whole.x + whole.width - picture.x - picture.width;
+    const int top = isLine ? 1 : whole.y + whole.height - picture.y - picture.height;
+    const RenderViewport& around = isLine ? picture : whole;
+    const RenderViewport stripes[] = {{around.x, around.y, left, around.height},
+                                      {around.x + around.width - right, around.y, right, around.height},
+                                      {around.x, around.y, around.width, bottom},
+                                      {around.x, around.y + around.height - top, around.width, top}};
+    glClearColor(0.5f, 0.5f, 0.5f, 1);
+    for (const RenderViewport& stripe : stripes) {
+        if (stripe.width <= 0 || stripe.height <= 0)
+            continue;
+        const ScissorScope scissor(stripe);
+        glClear(GL_COLOR_BUFFER_BIT);
+    }
 }
 
 void BackgroundDrawer::release()

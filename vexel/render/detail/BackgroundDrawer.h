@@ -13,7 +13,10 @@ class BackgroundDrawer {
 public:
     BackgroundDrawer();
 
+    /** Fills the viewport, with the frame around it. */
     void draw(const RenderBackground& background, const RenderView& view, TextureStore& textures);
+    /** What is around a picture that has been drawn. */
+    static void drawFrame(const RenderFrame& frame, const RenderViewport& picture);
     void release();
 
 private:
