@@ -6,5 +6,6 @@ vexel::RenderHighlight SoBoxHighlightRenderAction::getHighlight() const
 {
     vexel::RenderHighlight highlight;
     highlight.kind = vexel::RenderHighlight::Kind::Box;
+    highlight.linePattern = m_linePattern;
     return highlight;
 }

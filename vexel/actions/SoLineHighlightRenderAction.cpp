@@ -6,5 +6,6 @@ vexel::RenderHighlight SoLineHighlightRenderAction::getHighlight() const
 {
     vexel::RenderHighlight highlight;
     highlight.kind = vexel::RenderHighlight::Kind::Line;
+    highlight.linePattern = m_linePattern;
     return highlight;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include <vexel/actions/SoHighlightRenderAction.h>
 
 /** Marks what is selected with its edges. */
@@ -11,6 +13,13 @@ public:
     {
     }
 
+    /** Which pixels along a line are drawn, the lowest bit first, again and again; all at first. */
+    void setLinePattern(std::uint16_t pattern) { m_linePattern = pattern; }
+    std::uint16_t getLinePattern() const { return m_linePattern; }
+
 protected:
     vexel::RenderHighlight getHighlight() const override;
+
+private:
+    std::uint16_t m_linePattern = 0xffff;
 };

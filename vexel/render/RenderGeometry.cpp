@@ -1,6 +1,7 @@
 #include <vexel/render/RenderGeometry.h>
 
 #include <algorithm>
+#include <cstring>
 #include <numeric>
 
 #include <vexel/render/detail/ResourceTrash.h>
@@ -38,6 +39,31 @@ void keepIfComplete(std::vector<T>& values, std::size_t count)
 {
     if (values.size() != count)
         values.clear();
+}
+
+/** For each vertex the first one at the same place. */
+std::vector<std::uint32_t> firstAtPlace(const std::vector<SbVec3f>& positions)
+{
+    // As bits, because numbers that are none have no order; both zeros are the same place.
+    const auto place = [&](std::uint32_t vertex) {
+        std::array<std::uint32_t, 3> bits;
+        for (std::size_t axis = 0; axis < 3; ++axis) {
+            const float value = positions[vertex][static_cast<int>(axis)] + 0.0f;
+            std::memcpy(&bits[axis], &value, sizeof(value));
+        }
+        return bits;
+    };
+    std::vector<std::uint32_t> order(positions.size());
+    std::iota(order.begin(), order.end(), 0u);
+    std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+        const auto placeA = place(a);
+        const auto placeB = place(b);
+        return placeA != placeB ? placeA < placeB : a < b;
+    });
+    std::vector<std::uint32_t> first(positions.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        first[order[i]] = i > 0 && place(order[i]) == place(order[i - 1]) ? first[order[i - 1]] : order[i];
+    return first;
 }
 
 } // namespace
@@ -83,16 +109,19 @@ std::vector<std::uint32_t> RenderGeometry::edges() const
 {
     if (m_arrays.primitive != RenderPrimitive::Triangles)
         return m_arrays.primitive == RenderPrimitive::Lines ? m_arrays.indices : std::vector<std::uint32_t>();
-    if (!m_arrays.outline.empty())
-        return m_arrays.outline;
+    const std::vector<std::uint32_t> same = firstAtPlace(m_arrays.positions);
     std::vector<std::uint64_t> keys;
-    keys.reserve(m_arrays.indices.size());
-    for (std::size_t i = 0; i < m_arrays.indices.size(); ++i) {
-        const std::uint64_t from = m_arrays.indices[i];
-        const std::uint64_t to = m_arrays.indices[i % 3 == 2 ? i - 2 : i + 1];
+    const auto add = [&](std::uint32_t vertex, std::uint32_t other) {
+        const std::uint64_t from = same[vertex];
+        const std::uint64_t to = same[other];
         if (from != to)
             keys.push_back(std::min(from, to) << 32 | std::max(from, to));
-    }
+    };
+    keys.reserve(m_arrays.outline.empty() ? m_arrays.indices.size() : m_arrays.outline.size() / 2);
+    for (std::size_t i = 0; i < m_arrays.outline.size(); i += 2)
+        add(m_arrays.outline[i], m_arrays.outline[i + 1]);
+    for (std::size_t i = 0; m_arrays.outline.empty() && i < m_arrays.indices.size(); ++i)
+        add(m_arrays.indices[i], m_arrays.indices[i % 3 == 2 ? i - 2 : i + 1]);
     std::sort(keys.begin(), keys.end());
     keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
     std::vector<std::uint32_t> result;

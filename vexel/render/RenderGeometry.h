@@ -69,7 +69,7 @@ public:
     /** Vertices of a primitive: as many numbers as the primitive kind takes. */
     const std::uint32_t* primitiveVertices(std::size_t primitive) const;
 
-    /** Pairs of vertices: the outline that was given, else every edge of the triangles once. */
+    /** Pairs of vertices: every edge of the outline, or else of the triangles; one of those between the same places. */
     std::vector<std::uint32_t> edges() const;
 
     /** Number that no other geometry of this process ever has. */

@@ -15,9 +15,10 @@ struct RenderHighlight {
     };
 
     Kind kind = Kind::Line;
-    SbVec4f color{1, 0.6f, 0, 1}; ///< red, green, blue, alpha
-    float width = 2;              ///< pixels: of lines, or how far a halo reaches
-    bool onTop = false;           ///< also where other things are in front
+    SbVec4f color{1, 0.6f, 0, 1};       ///< red, green, blue, alpha
+    std::uint16_t linePattern = 0xffff; ///< lowest bit first, a pixel each; of lines
+    float width = 2;                    ///< pixels: of lines, or how far a halo reaches
+    bool onTop = false;                 ///< also where other things are in front
 };
 
 } // namespace vexel

@@ -55,6 +55,47 @@ TEST_F(Highlights, LinesMarkTheSelectedPathOnly)
     check(highlight);
 }
 
+TEST_F(Highlights, LinesAreAsWideAndAsBrokenAsAsked)
+{
+    SoLineHighlightRenderAction highlight(region);
+    highlight.setColor(SbColor(0, 1, 0));
+    highlight.setLineWidth(2);
+    const int thin = marks(draw(highlight), true);
+    highlight.setLineWidth(4);
+    const int wide = marks(draw(highlight), true);
+    EXPECT_NEAR(2 * thin, wide, thin / 2);
+    EXPECT_EQ(0xffff, highlight.getLinePattern());
+    highlight.setLinePattern(0x3333);
+    EXPECT_LT(marks(draw(highlight), true), wide * 7 / 8);
+    highlight.setLinePattern(0);
+    EXPECT_EQ(0, marks(draw(highlight), true));
+    highlight.releaseGraphics();
+
+    SoBoxHighlightRenderAction box(region);
+    box.setColor(SbColor(0, 1, 0));
+    box.setLineWidth(2);
+    const int whole = marks(draw(box), true);
+    box.setLinePattern(0x3333);
+    EXPECT_LT(marks(draw(box), true), whole * 3 / 4);
+    box.releaseGraphics();
+}
+
+TEST_F(Highlights, AHaloMayBeHidden)
+{
+    read("BaseColor { rgb 0 0 1 } Selection { Translation { translation 0.5 0 0 } Cube { width 0.5 height 0.5 } }"
+         " Translation { translation 0.5 0 2 } Cube { width 1 height 1 depth 1 }");
+    selection = static_cast<SoSelection*>(root->getChild(3));
+    selection->select(selection->getChild(1));
+    SoHaloHighlightRenderAction highlight(region);
+    highlight.setColor(SbColor(0, 1, 0));
+    EXPECT_TRUE(highlight.isHaloAlwaysVisible());
+    EXPECT_GT(marks(draw(highlight), true), 20);
+    highlight.setHaloAlwaysVisible(false);
+    EXPECT_EQ(0, marks(draw(highlight), true));
+    selection->deselectAll();
+    highlight.releaseGraphics();
+}
+
 TEST_F(Highlights, BoxesMarkTheSelectedPathOnly)
 {
     SoBoxHighlightRenderAction highlight(region);

@@ -41,13 +41,54 @@ TEST_F(HighlightTest, HaloGlowsAroundTheOutlineThroughOtherThings)
 {
     const DrawList::Packet chosen = list.add(scene, plain(square(0.25f), SbVec3f(1, 0, 0)));
     list.add(scene, plain(square(0.6f, 0.5f), SbVec3f(0, 0, 1)));
-    const QImage picture = highlight({chosen}, mark(RenderHighlight::Kind::Halo, 4));
+    RenderHighlight halo = mark(RenderHighlight::Kind::Halo, 4);
+    halo.onTop = true;
+    const QImage picture = highlight({chosen}, halo);
     const int edge = Size / 2 + Size / 8;
     EXPECT_COLOR(picture.pixelColor(Size / 2, Size / 2), 0, 0, 255);
     EXPECT_GT(picture.pixelColor(edge, Size / 2).green(), 200);
     EXPECT_GT(picture.pixelColor(edge, Size / 2).green(), picture.pixelColor(edge + 2, Size / 2).green());
     EXPECT_GT(picture.pixelColor(edge + 2, Size / 2).green(), 10);
     EXPECT_COLOR(picture.pixelColor(edge + 5, Size / 2), 0, 0, 255);
+}
+
+TEST_F(HighlightTest, HaloOfWhatIsHiddenShowsOnlyOnTop)
+{
+    const DrawList::Packet chosen = list.add(scene, plain(square(0.25f), SbVec3f(1, 0, 0)));
+    RenderPacket packet = plain(square(0.5f, 0.5f), SbVec3f(0, 0, 1));
+    packet.matrix = moved(-0.5f, 0, 0);
+    list.add(scene, packet);
+    RenderHighlight halo = mark(RenderHighlight::Kind::Halo, 4);
+    const int left = Size / 2 - Size / 8 - 2;
+    const int right = Size / 2 + Size / 8;
+    QImage picture = highlight({chosen}, halo);
+    EXPECT_COLOR(picture.pixelColor(left, Size / 2), 0, 0, 255);
+    EXPECT_GT(picture.pixelColor(right, Size / 2).green(), 200);
+    halo.onTop = true;
+    picture = highlight({chosen}, halo);
+    EXPECT_GT(picture.pixelColor(left, Size / 2).green(), 100);
+    EXPECT_GT(picture.pixelColor(right, Size / 2).green(), 200);
+}
+
+TEST_F(HighlightTest, LinesHaveTheirOwnPatternAndWidth)
+{
+    RenderPacket packet = plain(square(0.5f), SbVec3f(1, 0, 0));
+    packet.state.style.linePattern = 0x5555;
+    const DrawList::Packet chosen = list.add(scene, packet);
+    const auto greenAlongTheTop = [&](const RenderHighlight& lines) {
+        const QImage picture = highlight({chosen}, lines);
+        int count = 0;
+        for (int x = Size / 4 + 4; x < Size * 3 / 4 - 4; ++x)
+            count += picture.pixelColor(x, Size / 4).green() > 200;
+        return count;
+    };
+    RenderHighlight lines = mark(RenderHighlight::Kind::Line, 2);
+    constexpr int All = Size / 2 - 8;
+    EXPECT_EQ(All, greenAlongTheTop(lines));
+    lines.linePattern = 0x0f0f;
+    EXPECT_NEAR(All / 2, greenAlongTheTop(lines), 4);
+    lines.linePattern = 0;
+    EXPECT_EQ(0, greenAlongTheTop(lines));
 }
 
 TEST_F(HighlightTest, HaloStaysInItsViewport)

@@ -4,6 +4,7 @@
 
 #include <epoxy/gl.h>
 
+#include <vexel/render/detail/DepthFormat.h>
 #include <vexel/render/detail/PacketDrawer.h>
 
 namespace vexel {
@@ -76,53 +77,84 @@ void HighlightDrawer::drawLines(const DrawListData& list, const std::vector<Draw
     pass.depthTest = highlight.onTop ? std::optional<bool>(false) : std::nullopt;
     pass.color = highlight.color;
     pass.lineWidth = highlight.width;
+    pass.linePattern = highlight.linePattern;
     glEnable(GL_BLEND);
     glBlendFuncSeparate(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA, GL_ONE, GL_ONE_MINUS_SRC_ALPHA);
     m_packets.draw(list, commands, instanceBuffer, pass);
     glDisable(GL_BLEND);
 }
 
-void HighlightDrawer::fit(int width, int height)
+bool HighlightDrawer::Format::operator==(const Format& other) const
 {
-    if (m_framebuffer && m_width == width && m_height == height)
+    return width == other.width && height == other.height && samples == other.samples && depth == other.depth;
+}
+
+HighlightDrawer::Format HighlightDrawer::formatFor(unsigned target, const RenderViewport& viewport)
+{
+    GLint samples = 0;
+    glGetIntegerv(GL_SAMPLES, &samples);
+    return {viewport.width, viewport.height, samples > 1 ? samples : MaskSamples,
+            DepthFormat::ofDrawFramebuffer(target)};
+}
+
+void HighlightDrawer::fit(const Format& format)
+{
+    if (m_framebuffer && m_format == format)
         return;
     if (!m_framebuffer) {
         glGenFramebuffers(1, &m_framebuffer);
         glGenFramebuffers(1, &m_maskFramebuffer);
         glGenRenderbuffers(1, &m_maskSamples);
+        glGenRenderbuffers(1, &m_maskDepth);
         glGenTextures(TextureCount, m_textures);
     }
-    m_width = width;
-    m_height = height;
+    m_format = format;
     for (const unsigned texture : m_textures) {
         glBindTexture(GL_TEXTURE_2D, texture);
-        glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, width, height, 0, GL_RED, GL_UNSIGNED_BYTE, nullptr);
+        glTexImage2D(GL_TEXTURE_2D, 0, GL_R8, format.width, format.height, 0, GL_RED, GL_UNSIGNED_BYTE, nullptr);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MIN_FILTER, GL_NEAREST);
         glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_MAG_FILTER, GL_NEAREST);
     }
     glBindRenderbuffer(GL_RENDERBUFFER, m_maskSamples);
-    glRenderbufferStorageMultisample(GL_RENDERBUFFER, MaskSamples, GL_R8, width, height);
+    glRenderbufferStorageMultisample(GL_RENDERBUFFER, format.samples, GL_R8, format.width, format.height);
     glBindFramebuffer(GL_FRAMEBUFFER, m_maskFramebuffer);
     glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_RENDERBUFFER, m_maskSamples);
+    // One of the format before this one may be attached to the stencil as well.
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, GL_DEPTH_STENCIL_ATTACHMENT, GL_RENDERBUFFER, 0);
+    glBindRenderbuffer(GL_RENDERBUFFER, m_maskDepth);
+    glRenderbufferStorageMultisample(GL_RENDERBUFFER, format.samples, format.depth, format.width, format.height);
+    glFramebufferRenderbuffer(GL_FRAMEBUFFER, DepthFormat::attachment(format.depth), GL_RENDERBUFFER, m_maskDepth);
 }
 
 void HighlightDrawer::drawMask(const DrawListData& list, const std::vector<DrawCommand>& commands,
-                               unsigned instanceBuffer, const RenderView& view, float width)
+                               unsigned instanceBuffer, const RenderView& view, const RenderHighlight& highlight,
+                               unsigned target)
 {
     const float nothing[] = {0, 0, 0, 0};
     glBindFramebuffer(GL_FRAMEBUFFER, m_maskFramebuffer);
     glClearBufferfv(GL_COLOR, 0, nothing);
+    if (!highlight.onTop) {
+        const RenderViewport& from = view.viewport;
+        glBindFramebuffer(GL_READ_FRAMEBUFFER, target);
+        glBlitFramebuffer(from.x, from.y, from.x + from.width, from.y + from.height, 0, 0, m_format.width,
+                          m_format.height, GL_DEPTH_BUFFER_BIT, GL_NEAREST);
+        glBindFramebuffer(GL_FRAMEBUFFER, m_maskFramebuffer);
+    }
     RenderView inside = view;
-    inside.viewport = {0, 0, m_width, m_height};
-    m_packets.setCamera(Camera(inside));
+    inside.viewport = {0, 0, m_format.width, m_format.height};
+    Camera camera(inside);
+    camera.bringForward();
+    m_packets.setCamera(camera);
     DrawPass pass;
     pass.output = ProgramKey::OneColor;
-    pass.depthTest = false;
-    pass.lineWidth = width;
+    pass.depthTest = highlight.onTop ? std::optional<bool>(false) : std::nullopt;
+    pass.depthWrite = false;
+    pass.lineWidth = 1;
     m_packets.draw(list, commands, instanceBuffer, pass);
     glBindFramebuffer(GL_DRAW_FRAMEBUFFER, m_framebuffer);
     glFramebufferTexture2D(GL_DRAW_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, m_textures[Mask], 0);
-    glBlitFramebuffer(0, 0, m_width, m_height, 0, 0, m_width, m_height, GL_COLOR_BUFFER_BIT, GL_NEAREST);
+    glBlitFramebuffer(0, 0, m_format.width, m_format.height, 0, 0, m_format.width, m_format.height, GL_COLOR_BUFFER_BIT,
+                      GL_NEAREST);
 }
 
 void HighlightDrawer::drawHalo(const DrawListData& list, const std::vector<DrawCommand>& commands,
@@ -131,10 +163,10 @@ void HighlightDrawer::drawHalo(const DrawListData& list, const std::vector<DrawC
     GLint target = 0;
     glGetIntegerv(GL_DRAW_FRAMEBUFFER_BINDING, &target);
     glActiveTexture(GL_TEXTURE0);
-    fit(view.viewport.width, view.viewport.height);
+    fit(formatFor(static_cast<unsigned>(target), view.viewport));
     glDisable(GL_BLEND);
     const float reach = std::clamp(highlight.width, 1.0f, 64.0f);
-    drawMask(list, commands, instanceBuffer, view, 1);
+    drawMask(list, commands, instanceBuffer, view, highlight, static_cast<unsigned>(target));
 
     glBindFramebuffer(GL_FRAMEBUFFER, m_framebuffer);
     glFramebufferTexture2D(GL_FRAMEBUFFER, GL_COLOR_ATTACHMENT0, GL_TEXTURE_2D, m_textures[Smeared], 0);
@@ -165,6 +197,7 @@ void HighlightDrawer::release()
     glDeleteFramebuffers(1, &m_framebuffer);
     glDeleteFramebuffers(1, &m_maskFramebuffer);
     glDeleteRenderbuffers(1, &m_maskSamples);
+    glDeleteRenderbuffers(1, &m_maskDepth);
     glDeleteTextures(TextureCount, m_textures);
     m_framebuffer = 0;
     m_smear.release();

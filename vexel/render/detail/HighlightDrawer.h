@@ -26,19 +26,30 @@ public:
 private:
     enum Texture { Mask, Smeared, TextureCount };
 
-    void fit(int width, int height);
+    /** What a mask must be like to take over the depth of the target. */
+    struct Format {
+        int width = 0;
+        int height = 0;
+        int samples = 0;
+        unsigned depth = 0;
+
+        bool operator==(const Format& other) const;
+    };
+
+    static Format formatFor(unsigned target, const RenderViewport& viewport);
+    void fit(const Format& format);
     void drawMask(const DrawListData& list, const std::vector<DrawCommand>& commands, unsigned instanceBuffer,
-                  const RenderView& view, float width);
+                  const RenderView& view, const RenderHighlight& highlight, unsigned target);
 
     PacketDrawer& m_packets;
     ScreenPass m_smear;
     ScreenPass m_glow;
     unsigned m_maskFramebuffer = 0;
     unsigned m_maskSamples = 0;
+    unsigned m_maskDepth = 0;
     unsigned m_framebuffer = 0;
     unsigned m_textures[TextureCount] = {};
-    int m_width = 0;
-    int m_height = 0;
+    Format m_format;
 };
 
 } // namespace vexel

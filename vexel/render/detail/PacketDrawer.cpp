@@ -44,6 +44,11 @@ float lineWidthOf(const RenderStyle& style, const DrawPass& pass)
     return pass.lineWidth > 0 ? pass.lineWidth : style.lineWidth;
 }
 
+unsigned linePatternOf(const RenderStyle& style, const DrawPass& pass)
+{
+    return pass.linePattern.value_or(style.linePattern);
+}
+
 GeometryBuffers::Part partToDraw(RenderPrimitive primitive, RenderStyle::Draw style)
 {
     if (style == RenderStyle::Draw::Points)
@@ -55,14 +60,15 @@ GeometryBuffers::Part partToDraw(RenderPrimitive primitive, RenderStyle::Draw st
 }
 
 ProgramKey::Topology topologyOf(RenderPrimitive primitive, GeometryBuffers::Part part, const RenderStyle& style,
-                                float lineWidth)
+                                const DrawPass& pass)
 {
     if (part == GeometryBuffers::Part::Vertices || primitive == RenderPrimitive::Points)
         return ProgramKey::Points;
     if (part == GeometryBuffers::Part::Primitives && primitive == RenderPrimitive::Triangles)
         return ProgramKey::Triangles;
     // Core profiles draw lines of one pixel only; wider ones and patterns are made of triangles.
-    return lineWidth > 1 || style.linePattern != 0xffff ? ProgramKey::WideLines : ProgramKey::ThinLines;
+    return lineWidthOf(style, pass) > 1 || linePatternOf(style, pass) != 0xffff ? ProgramKey::WideLines
+                                                                                : ProgramKey::ThinLines;
 }
 
 TextureKnob knobFor(const RenderTexture& texture, bool lit)
@@ -106,7 +112,7 @@ ProgramKey PacketDrawer::keyFor(const Bound& bound, const RenderState& state, Pa
 {
     const RenderStyle& style = state.style;
     ProgramKey key;
-    const ProgramKey::Topology topology = topologyOf(bound.primitive, part, style, lineWidthOf(style, pass));
+    const ProgramKey::Topology topology = topologyOf(bound.primitive, part, style, pass);
     key[ProgramKnob::Topology] = topology;
     key[ProgramKnob::Output] = pass.output;
     key[ProgramKnob::Multisampled] = pass.multisampled;
@@ -142,8 +148,8 @@ void PacketDrawer::applyProgram(const RenderState& state, const ProgramKey& key,
     glUseProgram(program.id);
     glUniform1f(uniforms.pointSize, std::max(state.style.pointSize, pass.lineWidth));
     glUniform1f(uniforms.lineWidth, lineWidthOf(state.style, pass));
-    glUniform1ui(uniforms.linePattern, state.style.linePattern);
-    glUniform1f(uniforms.linePatternScale, std::max<int>(state.style.linePatternScale, 1));
+    glUniform1ui(uniforms.linePattern, linePatternOf(state.style, pass));
+    glUniform1f(uniforms.linePatternScale, pass.linePattern ? 1 : std::max<int>(state.style.linePatternScale, 1));
     glUniform4fv(uniforms.oneColor, 1, &pass.color[0]);
     m_surroundings.bind(state.surroundings.get());
     for (int i = 0; i < ProgramKey::MaxTextures; ++i) {

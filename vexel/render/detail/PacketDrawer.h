@@ -21,8 +21,9 @@ struct DrawPass {
     bool multisampled = false;             ///< for Layer: the target has several samples per pixel
     bool textures = true;
     bool lighting = true;
-    SbVec4f color{1, 1, 1, 1}; ///< for OneColor
-    float lineWidth = 0;       ///< above 0: instead of what the packets ask for, and the least size of points
+    SbVec4f color{1, 1, 1, 1};                ///< for OneColor
+    std::optional<std::uint16_t> linePattern; ///< instead of what the packets ask for, a pixel for each bit
+    float lineWidth = 0; ///< above 0: instead of what the packets ask for, and the least size of points
 };
 
 /** Sets state and issues draw calls. State is set only where it differs from that of the command before. */
