@@ -71,8 +71,8 @@ PickQuery SoRayPickAction::queryFor(const CompiledScene& scene) const
     const float scaleY = m_aim == Aim::Viewport ? static_cast<float>(whole.height) : 1;
     const float x = static_cast<float>(whole.x) + m_point[0] * scaleX;
     const float y = static_cast<float>(whole.y) + m_point[1] * scaleY;
-    // Nothing is seen beside the part of the viewport that the view fills.
-    if (view.frame && !view.viewport.contains(x, y))
+    // Nothing is seen beside the viewport, or beside the part of it that the view fills.
+    if (!view.viewport.contains(x, y))
         return PickQuery();
     return PickQuery::atPixel(view, x, y, m_radius);
 }

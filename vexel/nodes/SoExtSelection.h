@@ -1,10 +1,19 @@
 #pragma once
 
+#include <vector>
+
+#include <vexel/base/SbVec2f.h>
 #include <vexel/fields/SoEnumEntry.h>
 #include <vexel/fields/SoSFEnum.h>
 #include <vexel/nodes/SoSelection.h>
 
-/** A selection that can also be made by drawing a line about things on the screen. */
+class LassoLine;
+class SoAnnotation;
+
+/**
+ * A selection that can also be made by drawing a line about things on the screen, with the left mouse button held. What
+ * lies inside is picked all at once, as the policy says; a click without a move is a pick of what is there.
+ */
 class VEXEL_API SoExtSelection : public SoSelection {
     SO_NODE(SoExtSelection, SoSelection)
 public:
@@ -23,4 +32,22 @@ public:
     SoSFEnum lassoPolicy{this, "lassoPolicy", FULL_BBOX, LassoPolicy_names};
     /** Whether hidden shapes count. */
     SoSFEnum lassoMode{this, "lassoMode", ALL_SHAPES, LassoMode_names};
+
+    SoExtSelection() = default;
+
+    void doAction(SoAction& action) override;
+    void handleEvent(SoHandleEventAction& action) override;
+
+protected:
+    ~SoExtSelection() override;
+
+private:
+    void begin(SoHandleEventAction& action);
+    void drag(SoHandleEventAction& action);
+    void finish(SoHandleEventAction& action);
+    std::vector<SbVec2f> outline() const;
+
+    std::vector<SbVec2f> m_way; ///< of the pointer while the button is held, in pixels
+    SoAnnotation* m_overlay = nullptr;
+    LassoLine* m_line = nullptr;
 };

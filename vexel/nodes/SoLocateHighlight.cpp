@@ -1,6 +1,9 @@
 #include <vexel/nodes/SoLocateHighlight.h>
 
-#include <vexel/actions/SoAction.h>
+#include <vexel/actions/SoHandleEventAction.h>
+#include <vexel/actions/SoLocation2Event.h>
+#include <vexel/actions/SoPickedPoint.h>
+#include <vexel/base/SoPath.h>
 #include <vexel/state/SoState.h>
 
 void SoLocateHighlight::setLocated(bool on)
@@ -14,6 +17,16 @@ void SoLocateHighlight::setLocated(bool on)
 bool SoLocateHighlight::isHighlighted() const
 {
     return mode.getValue() == ON || (mode.getValue() == AUTO && m_isLocated);
+}
+
+void SoLocateHighlight::handleEvent(SoHandleEventAction& action)
+{
+    // Looked up in every mode, so that it is known what is under the pointer when the mode becomes AUTO.
+    if (action.getEvent()->isOfType(SoLocation2Event::getClassTypeId())) {
+        const SoPickedPoint* point = action.getPickedPoint();
+        setLocated(point && point->getPath()->containsNode(this));
+    }
+    SoSeparator::handleEvent(action);
 }
 
 void SoLocateHighlight::doAction(SoAction& action)

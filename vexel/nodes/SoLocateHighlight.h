@@ -20,11 +20,12 @@ public:
     /** ON stands out always, OFF never. */
     SoSFEnum mode{this, "mode", AUTO, Mode_names};
 
-    /** Told by the event handling: whether the cursor is over the shapes. */
+    /** Told by the event handling when the pointer moves: whether the cursor is over the shapes. */
     void setLocated(bool on);
     bool isHighlighted() const;
 
     void doAction(SoAction& action) override;
+    void handleEvent(SoHandleEventAction& action) override;
 
 private:
     bool m_isLocated = false;

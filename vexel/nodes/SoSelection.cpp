@@ -132,21 +132,37 @@ void SoSelection::setPickFilterCallback(PickFilter* filter, void* data)
 
 void SoSelection::pick(const SoPath* picked, bool isShiftDown)
 {
-    SoPath* path = picked && m_filter ? m_filter(m_filterData, picked) : (picked ? picked->copy() : nullptr);
-    if (path)
+    SoPathList paths;
+    if (picked)
+        paths.append(picked->copy());
+    pick(paths, isShiftDown);
+}
+
+void SoSelection::pick(const SoPathList& picked, bool isShiftDown)
+{
+    // The filter may answer the same path for several ones.
+    SoPathList paths;
+    for (int i = 0; i < picked.getLength(); ++i) {
+        SoPath* path = m_filter ? m_filter(m_filterData, picked[i]) : picked[i];
+        if (!path)
+            continue;
         path->ref();
+        if (paths.findPath(*path) < 0)
+            paths.append(path);
+        path->unref();
+    }
     const bool toggles = policy.getValue() == TOGGLE || (policy.getValue() == SHIFT && isShiftDown);
+    const bool isPresent = paths.getLength() == 1 && getNumSelected() == 1 && isSelected(paths[0]);
     m_onStart.call(this);
-    if (toggles) {
-        if (path)
-            toggle(path);
-    } else if (!path || getNumSelected() != 1 || !isSelected(path)) {
+    if (!toggles && !isPresent)
         deselectAll();
-        select(path);
+    for (int i = 0; i < paths.getLength(); ++i) {
+        if (toggles)
+            toggle(paths[i]);
+        else
+            select(paths[i]);
     }
     m_onFinish.call(this);
-    if (path)
-        path->unref();
 }
 
 void SoSelection::handleEvent(SoHandleEventAction& action)

@@ -70,6 +70,8 @@ public:
     void handleEvent(SoHandleEventAction& action) override;
     /** Told by the event handling: changes the selection as the policy says. A null path is a pick of nothing. */
     void pick(const SoPath* picked, bool isShiftDown);
+    /** The same for several paths at once. */
+    void pick(const SoPathList& picked, bool isShiftDown);
 
 protected:
     ~SoSelection() override = default;

@@ -2,6 +2,8 @@
 
 #include <vexel/base/SoPath.h>
 #include <vexel/nodes/SoCube.h>
+#include <vexel/nodes/SoExtSelection.h>
+#include <vexel/nodes/SoLocateHighlight.h>
 #include <vexel/nodes/SoOrthographicCamera.h>
 #include <vexel/nodes/SoPerspectiveCamera.h>
 #include <vexel/nodes/SoSelection.h>
@@ -221,6 +223,41 @@ TEST_F(Examiner, DrawsTheSceneAndDrawsAgainWhenItChanges)
     EXPECT_TRUE(QTest::qWaitFor([&] { return litPixels() < before / 4; }));
     viewer->getSceneManager()->setBackgroundColorRGBA(SbColorRGBA(1, 1, 1, 1));
     EXPECT_TRUE(QTest::qWaitFor([&] { return litPixels() > before; }));
+}
+
+TEST_F(Examiner, AWindowSendsTheMouseToLassos)
+{
+    auto* lasso = new SoExtSelection;
+    lasso->ref();
+    lasso->lassoType = SoExtSelection::RECTANGLE;
+    lasso->addChild(cube);
+    viewer->setSceneGraph(lasso);
+    viewer->setViewing(false);
+    drag(Qt::LeftButton, Qt::NoModifier, QPoint(5, 5), QPoint(gl->width() - 5, gl->height() - 5));
+    EXPECT_EQ(1, lasso->getNumSelected());
+    drag(Qt::LeftButton, Qt::NoModifier, QPoint(5, 5), QPoint(30, 30));
+    EXPECT_EQ(0, lasso->getNumSelected());
+    viewer->setSceneGraph(nullptr);
+    lasso->unref();
+}
+
+TEST_F(Examiner, APointerThatLeavesTheWindowIsOverNothing)
+{
+    auto* highlight = new SoLocateHighlight;
+    highlight->ref();
+    highlight->addChild(cube);
+    viewer->setSceneGraph(highlight);
+    viewer->setViewing(false);
+    QMouseEvent move(QEvent::MouseMove, middle(), gl->mapToGlobal(middle()), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
+    QApplication::sendEvent(gl, &move);
+    EXPECT_TRUE(highlight->isHighlighted());
+    QCursor::setPos(gl->mapToGlobal(QPoint(-20, -20)));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(gl, &leave);
+    EXPECT_FALSE(highlight->isHighlighted());
+    viewer->setSceneGraph(nullptr);
+    highlight->unref();
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <vexel/actions/SoMouseButtonEvent.h>
 #include <vexel/actions/SoMouseWheelEvent.h>
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
@@ -56,6 +57,8 @@ std::unique_ptr<SoEvent> withoutPlace(const QEvent& event, QPoint& place)
     case QEvent::MouseMove:
         place = static_cast<const QMouseEvent&>(event).pos();
         return std::make_unique<SoLocation2Event>();
+    case QEvent::Leave: // the place of the pointer is one outside then
+        return std::make_unique<SoLocation2Event>();
     case QEvent::Wheel: {
         const auto& wheel = static_cast<const QWheelEvent&>(event);
         place = wheel.position().toPoint();
@@ -84,7 +87,9 @@ std::unique_ptr<SoEvent> translateEvent(const QEvent& event, const QWidget& widg
     translated->setPosition(
         SbVec2s(static_cast<short>(place.x() * ratio), static_cast<short>((widget.height() - 1 - place.y()) * ratio)));
     translated->setTime(SbTime::getTimeOfDay());
-    const Qt::KeyboardModifiers modifiers = static_cast<const QInputEvent&>(event).modifiers();
+    const Qt::KeyboardModifiers modifiers = event.type() == QEvent::Leave
+                                                ? QGuiApplication::keyboardModifiers()
+                                                : static_cast<const QInputEvent&>(event).modifiers();
     translated->setModifiers(modifiers & Qt::ShiftModifier, modifiers & Qt::ControlModifier,
                              modifiers & Qt::AltModifier);
     return translated;
