@@ -76,7 +76,6 @@ public:
 
     /** The way from the root to the present node; a new path with a reference count of 0. */
     SoPath* getCurPath() const;
-    SoNode* getCurPathTail() const { return m_way.empty() ? nullptr : m_way.back().node; }
 
     /** What happens at a shape; nothing for actions that do not ask for shapes. */
     virtual void visitShape(SoShape& shape);

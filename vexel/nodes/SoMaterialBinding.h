@@ -1,34 +1,13 @@
 #pragma once
 
-#include <vexel/fields/SoEnumEntry.h>
 #include <vexel/fields/SoSFEnum.h>
+#include <vexel/nodes/SoBindingNames.h>
 #include <vexel/nodes/SoNode.h>
 
 /** How the materials in force are given to the parts, faces and vertices of shapes. */
-class VEXEL_API SoMaterialBinding : public SoNode {
+class VEXEL_API SoMaterialBinding : public SoNode, public SoBindingNames<0> {
     SO_NODE(SoMaterialBinding, SoNode)
 public:
-    enum Binding {
-        OVERALL,
-        PER_PART,
-        PER_PART_INDEXED,
-        PER_FACE,
-        PER_FACE_INDEXED,
-        PER_VERTEX,
-        PER_VERTEX_INDEXED,
-        DEFAULT = OVERALL,
-        NONE = OVERALL
-    };
-    static constexpr SoEnumEntry Binding_names[] = {{"OVERALL", OVERALL},
-                                                    {"PER_PART", PER_PART},
-                                                    {"PER_PART_INDEXED", PER_PART_INDEXED},
-                                                    {"PER_FACE", PER_FACE},
-                                                    {"PER_FACE_INDEXED", PER_FACE_INDEXED},
-                                                    {"PER_VERTEX", PER_VERTEX},
-                                                    {"PER_VERTEX_INDEXED", PER_VERTEX_INDEXED},
-                                                    {"DEFAULT", DEFAULT},
-                                                    {"NONE", NONE}};
-
     SoSFEnum value{this, "value", OVERALL, Binding_names};
 
     void doAction(SoAction& action) override;

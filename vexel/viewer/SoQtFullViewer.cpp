@@ -34,9 +34,9 @@ struct SoQtFullViewer::CameraFlight {
     QTimer timer;
 };
 
-SoQtFullViewer::SoQtFullViewer(QWidget* parent, const char* name, BuildFlag flag, Type)
+SoQtFullViewer::SoQtFullViewer(QWidget* parent, const char* name, BuildFlag flag, Type type)
     : SoQtRenderArea(parent, name), m_scene(std::make_unique<ViewerScene>()), m_home(std::make_unique<CameraState>()),
-      m_flight(std::make_unique<CameraFlight>()), m_hasMenu((flag & BUILD_POPUP) != 0)
+      m_flight(std::make_unique<CameraFlight>()), m_hasMenu((flag & BUILD_POPUP) != 0), m_isEditor(type == EDITOR)
 {
     SoQtRenderArea::setSceneGraph(m_scene->root());
     getSceneManager()->setPrepareCallback(
@@ -76,7 +76,10 @@ void SoQtFullViewer::setSceneGraph(SoNode* root)
 {
     stopMovingCamera();
     m_scene->setScene(root);
-    if (m_scene->usesOwnCamera()) // a camera of the scene is part of what was made, and stays as it is
+    const bool hadCamera = !m_scene->usesOwnCamera();
+    if (!hadCamera && m_isEditor)
+        m_scene->addCameraToScene();
+    if (!hadCamera) // a camera of the scene is part of what was made, and stays as it is
         viewAll();
     saveHomePosition();
     emit modeChanged();

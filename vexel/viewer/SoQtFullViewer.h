@@ -14,7 +14,7 @@ class VEXEL_API SoQtFullViewer : public SoQtRenderArea, public SoGuiViewer {
     Q_OBJECT
 public:
     enum BuildFlag { BUILD_NONE = 0, BUILD_DECORATION = 1, BUILD_POPUP = 2, BUILD_ALL = 3 };
-    /** A browser looks at the scene with a camera of its own where the scene has none; an editor expects one there. */
+    /** Where a scene has no camera, a browser looks at it with one of its own, and an editor puts one into it. */
     enum Type { BROWSER, EDITOR };
     enum DrawStyle { AS_IS, LINES, POINTS };
 
@@ -76,4 +76,5 @@ private:
     bool m_isViewing = true;
     bool m_isSeeking = false;
     bool m_hasMenu;
+    bool m_isEditor;
 };

@@ -225,6 +225,22 @@ TEST_F(Examiner, DrawsTheSceneAndDrawsAgainWhenItChanges)
     EXPECT_TRUE(QTest::qWaitFor([&] { return litPixels() > before; }));
 }
 
+TEST_F(Examiner, AnEditorPutsACameraIntoAScene)
+{
+    SoQtExaminerViewer editor(&window, "Editor", true, SoQtFullViewer::BUILD_NONE, SoQtFullViewer::EDITOR);
+    const int before = root->getNumChildren();
+    editor.setSceneGraph(root);
+    ASSERT_EQ(before + 1, root->getNumChildren());
+    EXPECT_EQ(root->getChild(0), editor.getCamera());
+    SbVec3f direction;
+    editor.getCamera()->orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
+    EXPECT_GT(direction.dot(SbVec3f(3, 0, 0) - editor.getCamera()->position.getValue()), 0);
+    EXPECT_NEAR(3, editor.getCamera()->position.getValue()[0], 0.01f);
+    editor.setSceneGraph(root);
+    EXPECT_EQ(before + 1, root->getNumChildren());
+    editor.setSceneGraph(nullptr);
+}
+
 TEST_F(Examiner, AWindowSendsTheMouseToLassos)
 {
     auto* lasso = new SoExtSelection;

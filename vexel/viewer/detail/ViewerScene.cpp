@@ -61,6 +61,14 @@ void ViewerScene::setScene(SoNode* scene)
         m_root->addChild(m_scene);
 }
 
+void ViewerScene::addCameraToScene()
+{
+    if (!m_scene || !m_scene->isOfType(SoGroup::getClassTypeId()))
+        return;
+    static_cast<SoGroup*>(m_scene)->insertChild(new SoPerspectiveCamera, 0);
+    setScene(m_scene);
+}
+
 void ViewerScene::toggleProjection()
 {
     if (!usesOwnCamera())

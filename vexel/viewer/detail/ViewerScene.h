@@ -18,6 +18,8 @@ public:
     /** The graph to be drawn. */
     SoSeparator* root() const { return m_root; }
     void setScene(SoNode* scene);
+    /** Makes a camera the first child of a scene that is a group. */
+    void addCameraToScene();
     SoNode* scene() const { return m_scene; }
     /** The first camera of the scene, or the viewer's own. */
     SoCamera* camera() const { return m_camera; }
