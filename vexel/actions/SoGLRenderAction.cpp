@@ -43,6 +43,7 @@ RenderOptions SoGLRenderAction::optionsFor(const CompiledScene& scene) const
 void SoGLRenderAction::visitNode(SoNode& root)
 {
     if (SoPath* path = getPathAppliedTo()) {
+        // Compiled for each call: paths are drawn once, for a picture of a part, and not again and again.
         CompiledScene scene(*path);
         draw(scene, root);
         return;

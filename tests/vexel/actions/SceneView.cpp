@@ -48,8 +48,13 @@ void SceneView::read(const char* nodes)
 
 QImage SceneView::draw(SoGLRenderAction& with)
 {
+    return draw(with, root);
+}
+
+QImage SceneView::draw(SoGLRenderAction& with, SoNode* graph)
+{
     m_target->bind();
-    with.apply(root);
+    with.apply(graph);
     return m_target->image();
 }
 

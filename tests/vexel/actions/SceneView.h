@@ -10,6 +10,7 @@
 #include <vexel/render/GLContext.h>
 #include <vexel/render/OffscreenTarget.h>
 
+class SoNode;
 class SoSeparator;
 
 /** A scene in front of a camera that sees x and y from -1 to 1, drawn off screen. */
@@ -23,6 +24,7 @@ protected:
     /** Reads nodes behind the camera; a light model without light is in force. */
     void read(const char* nodes);
     QImage draw(SoGLRenderAction& with);
+    QImage draw(SoGLRenderAction& with, SoNode* graph);
     QImage draw() { return draw(*action); }
     /** Draws and answers the pixel at a place from -1 to 1. */
     QColor at(float x, float y);

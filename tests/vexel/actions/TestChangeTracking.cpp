@@ -12,6 +12,7 @@
 #include <vexel/nodes/SoBaseColor.h>
 #include <vexel/nodes/SoCoordinate3.h>
 #include <vexel/nodes/SoCube.h>
+#include <vexel/nodes/SoDepthBuffer.h>
 #include <vexel/nodes/SoFaceSet.h>
 #include <vexel/nodes/SoGroup.h>
 #include <vexel/nodes/SoMaterial.h>
@@ -184,6 +185,71 @@ TEST_F(ChangeTracking, AfterRandomEditsTheSceneIsThatOfAFreshStart)
     }
     EXPECT_GT(numShapes, 20u);
 }
+
+TEST_F(ChangeTracking, APropertyConcernsOnlyWhatStandsBehindIt)
+{
+    std::string nodes;
+    for (int i = 0; i < 200; ++i)
+        nodes += "Separator { Cube { width 0.2 height 0.2 } }";
+    read((nodes + "BaseColor { rgb 1 0 0 } Translation { translation 0.5 0 0 } Separator { Cube { width 0.2 } }")
+             .c_str());
+    vexel::CompiledScene scene(*root);
+    scene.update(region);
+    EXPECT_GT(scene.compiler().numVisits(), 400);
+    static_cast<SoBaseColor*>(root->getChild(202))->rgb = SbColor(0, 1, 0);
+    scene.update(region);
+    // The children of the root and the shape behind the property, but none of the shapes before it.
+    EXPECT_LT(scene.compiler().numVisits(), 210);
+    vexel::CompiledScene fresh(*root);
+    fresh.update(region);
+    EXPECT_EQ(contents(fresh), contents(scene));
+}
+
+/** Seeds are in the names of the tests, so that one that failed can be run again alone. */
+class PicturesAfterEdits : public SceneView, public testing::WithParamInterface<unsigned> {};
+
+TEST_P(PicturesAfterEdits, AreThoseOfAFreshStart)
+{
+    RandomEdits edits(root, GetParam());
+    SoGLRenderAction freshAction(region);
+    // A picture of the same graph in a list of its own. Surfaces at the same depth hide each other in any order, so
+    // pixels only count where the first one drawn and the last one drawn look alike.
+    const auto fresh = [&](const char* function) {
+        auto* view = new SoSeparator;
+        view->ref();
+        auto* depth = new SoDepthBuffer;
+        depth->function.set(SbString(function));
+        view->addChild(depth);
+        view->addChild(root);
+        const QImage picture = draw(freshAction, view);
+        view->unref();
+        return picture;
+    };
+    int numCompared = 0;
+    int numSeen = 0;
+    for (int step = 0; step < 150; ++step) {
+        edits.edit();
+        if (step % 3 == 0)
+            continue;
+        const QImage kept = draw();
+        const QImage first = fresh("LESS");
+        const QImage last = fresh("LEQUAL");
+        for (int i = 0; i < Size * Size; ++i) {
+            const QRgb expected = first.pixel(i % Size, i / Size);
+            if (expected != last.pixel(i % Size, i / Size))
+                continue;
+            ++numCompared;
+            numSeen += (expected & 0xffffff) != 0;
+            ASSERT_EQ(expected, kept.pixel(i % Size, i / Size))
+                << "seed " << GetParam() << ", step " << step << ", pixel " << i % Size << ' ' << i / Size;
+        }
+    }
+    EXPECT_GT(numCompared, 99 * Size * Size * 3 / 4);
+    EXPECT_GT(numSeen, 0);
+    freshAction.releaseGraphics();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seed, PicturesAfterEdits, testing::Range(1u, 21u), testing::PrintToStringParamName());
 
 TEST_F(ChangeTracking, AColorOfManyShapesReachesAllPlaces)
 {

@@ -3,6 +3,8 @@
 #include <vexel/actions/SoBoxHighlightRenderAction.h>
 #include <vexel/actions/SoHaloHighlightRenderAction.h>
 #include <vexel/actions/SoLineHighlightRenderAction.h>
+#include <vexel/actions/detail/CompiledScene.h>
+#include <vexel/base/SoPath.h>
 #include <vexel/nodes/SoSelection.h>
 #include <vexel/nodes/SoSeparator.h>
 
@@ -94,6 +96,29 @@ TEST_F(Highlights, AHaloMayBeHidden)
     EXPECT_EQ(0, marks(draw(highlight), true));
     selection->deselectAll();
     highlight.releaseGraphics();
+}
+
+TEST_F(Highlights, OnlyThePlaceThatThePathLeadsToIsMarked)
+{
+    read("BaseColor { rgb 0 0 1 } Selection { DEF twin Separator { Group { Cube { width 0.5 height 0.5 } } }"
+         " Translation { translation 0.5 0 0 } USE twin Switch { USE twin } }");
+    selection = static_cast<SoSelection*>(root->getChild(3));
+    const auto packets = [this](std::initializer_list<int> way) {
+        auto* path = new SoPath(selection);
+        path->ref();
+        for (const int index : way)
+            path->append(index);
+        vexel::CompiledScene scene(*root);
+        scene.update(region);
+        const std::size_t num = scene.tree().packetsBelow(*path).size();
+        path->unref();
+        return num;
+    };
+    EXPECT_EQ(2u, packets({}));
+    EXPECT_EQ(1u, packets({0}));
+    EXPECT_EQ(1u, packets({2, 0, 0}));
+    EXPECT_EQ(0u, packets({1}));
+    EXPECT_EQ(0u, packets({3, 0}));
 }
 
 TEST_F(Highlights, BoxesMarkTheSelectedPathOnly)

@@ -11,6 +11,8 @@ namespace vexel {
 class ChangeStamps {
 public:
     void touch(SbUniqueId node) { m_stamps[node] = ++m_last; }
+    /** The newest stamp there is. */
+    std::uint64_t last() const { return m_last; }
     std::uint64_t of(SbUniqueId node) const
     {
         const auto found = m_stamps.find(node);

@@ -116,9 +116,10 @@ void CompiledScene::note()
     // Only in plain groups is a child in the same state as before when another one came or went.
     const bool isPlain =
         node->getTypeId() == SoGroup::getClassTypeId() || node->isOfType(SoSeparator::getClassTypeId());
-    const bool isOwn =
-        isList ? isPlain && !m_sensor.getTriggerChild()->affectsState()
-               : field && (node->isOfType(SoShape::getClassTypeId()) || node->isOfType(SoBackground::getClassTypeId()));
+    const bool isAlone = node->isOfType(SoShape::getClassTypeId()) || node->isOfType(SoBackground::getClassTypeId());
+    // A field of a property is for the walk to look at, when it comes to the property.
+    const bool isOwn = isList ? isPlain && !m_sensor.getTriggerChild()->affectsState()
+                              : field && (isAlone || (!m_compiler.looksAhead() && !node->getChildren()));
     markDirty(*node, isOwn ? Dirt::Own : Dirt::Deep);
 }
 

@@ -11,6 +11,7 @@
 #include <vexel/nodes/SoLevelOfDetail.h>
 #include <vexel/nodes/SoSeparator.h>
 #include <vexel/nodes/SoShape.h>
+#include <vexel/nodes/SoSurroundScale.h>
 #include <vexel/render/RenderSurroundings.h>
 
 namespace vexel {
@@ -25,7 +26,7 @@ using Dirt = SceneScope::Dirt;
 } // namespace
 
 SceneCompiler::SceneCompiler(SceneTree& tree, const ChangeStamps& stamps)
-    : m_tree(tree), m_shapes(stamps), m_textures(stamps)
+    : m_tree(tree), m_shapes(stamps), m_textures(stamps), m_stamps(stamps)
 {
 }
 
@@ -43,7 +44,7 @@ void SceneCompiler::reset()
     m_camera = Camera();
     m_backgroundScope = nullptr;
     m_numCameras = 0;
-    m_hasCallbacks = m_hasOwnTransparency = m_usesView = false;
+    m_hasCallbacks = m_hasOwnTransparency = m_usesView = m_looksAhead = false;
     m_isConsistent = true;
     m_isFirstWalk = true;
 }
@@ -65,6 +66,7 @@ bool SceneCompiler::isAlive(const SceneScope* scope, SbUniqueId id) const
 void SceneCompiler::endTraversal()
 {
     m_isFirstWalk = false;
+    m_walkedStamp = m_stamps.last();
     if ((m_camera.node && !isAlive(m_camera.scope, m_camera.scopeId)) ||
         (m_backgroundScope && !isAlive(m_backgroundScope, m_backgroundScopeId)))
         m_isConsistent = false;
@@ -97,6 +99,9 @@ void SceneCompiler::visitNode(SoNode& node)
         visitScope(node);
         return;
     }
+    // A changed property is one for what stands behind it only.
+    if (m_stamps.of(node.getNodeId()) > m_walkedStamp && m_frames.back().dirt == Dirt::Own && node.affectsState())
+        m_frames.back().dirt = Dirt::Deep;
     if (node.isOfType(SoCallback::getClassTypeId())) {
         addCallback(static_cast<SoCallback&>(node));
         return;
@@ -107,6 +112,7 @@ void SceneCompiler::visitNode(SoNode& node)
     }
     if (node.isOfType(SoLOD::getClassTypeId()) || node.isOfType(SoLevelOfDetail::getClassTypeId()))
         m_usesView = m_frames.back().scope->usesView = true;
+    m_looksAhead = m_looksAhead || node.isOfType(SoSurroundScale::getClassTypeId());
     SoAction::visitNode(node);
 }
 

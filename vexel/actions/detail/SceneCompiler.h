@@ -45,6 +45,10 @@ public:
     const SoCamera* camera() const { return m_camera.node; }
     /** True when the order of the graph matters beyond single places, so that a change needs a walk from scratch. */
     bool isOrdered() const { return m_hasCallbacks || m_numCameras > 1; }
+    /** True when a place may look different because of what stands behind it. */
+    bool looksAhead() const { return m_looksAhead; }
+    /** How many nodes the last walk came to. */
+    int numVisits() const { return m_numVisits; }
     /** True when something has its size or form from the camera. */
     bool usesView() const { return m_usesView; }
     bool hasBackground() const { return m_backgroundScope != nullptr; }
@@ -94,6 +98,8 @@ private:
     SceneTree& m_tree;
     ShapeCache m_shapes;
     TextureCache m_textures;
+    const ChangeStamps& m_stamps;
+    std::uint64_t m_walkedStamp = 0; ///< the newest one before the changes that the present walk takes over
     SurroundingsCache m_surroundings;
     std::vector<Frame> m_frames;
     Camera m_camera;
@@ -108,6 +114,7 @@ private:
     bool m_hasCallbacks = false;
     bool m_hasOwnTransparency = false;
     bool m_usesView = false;
+    bool m_looksAhead = false;
     bool m_isConsistent = true;
     bool m_isFirstWalk = true;
     bool m_wasTooLarge = false;

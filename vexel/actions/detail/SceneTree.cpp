@@ -4,6 +4,7 @@
 
 #include <vexel/actions/detail/BoxGeometry.h>
 #include <vexel/base/SoPath.h>
+#include <vexel/nodes/SoSeparator.h>
 #include <vexel/nodes/SoShape.h>
 
 namespace vexel {
@@ -179,31 +180,59 @@ SoPath* SceneTree::pathOf(std::uint32_t shape) const
     return path;
 }
 
+bool SceneTree::isReachedAlong(const SoPath& path, const SceneShape& shape) const
+{
+    const int length = path.getFullLength();
+    const std::vector<SceneStep> way = fullWay(shape);
+    const auto first =
+        std::find_if(way.begin(), way.end(), [&](const SceneStep& step) { return step.node == path.getHead(); });
+    if (way.end() - first < length)
+        return false;
+    for (int i = 1; i < length; ++i) {
+        const SceneStep& step = *(first + i);
+        if (step.node != path.getNode(i) || step.index != path.getIndex(i))
+            return false;
+    }
+    return true;
+}
+
+// The places of the last node of the path that has any: all that the path leads to is below them.
+std::vector<const SceneScope*> SceneTree::scopesAlong(const SoPath& path) const
+{
+    std::vector<const SceneScope*> scopes;
+    for (int i = path.getFullLength() - 1; i >= 0 && scopes.empty(); --i) {
+        for (const SceneScope* place = firstPlace(path.getNode(i)->getNodeId()); place; place = place->nextTwin)
+            scopes.push_back(place);
+        // A separator without a place is not shown.
+        if (scopes.empty() && path.getNode(i)->isOfType(SoSeparator::getClassTypeId()))
+            return scopes;
+    }
+    if (scopes.empty() && m_root)
+        scopes.push_back(m_root.get());
+    return scopes;
+}
+
 std::vector<DrawList::Packet> SceneTree::packetsBelow(const SoPath& path) const
 {
     std::vector<DrawList::Packet> packets;
-    const int length = path.getFullLength();
-    const auto leadsTo = [&](const SceneShape& shape) {
-        const std::vector<SceneStep> way = fullWay(shape);
-        const auto first =
-            std::find_if(way.begin(), way.end(), [&](const SceneStep& step) { return step.node == path.getHead(); });
-        if (way.end() - first < length)
-            return false;
-        for (int i = 1; i < length; ++i) {
-            const SceneStep& step = *(first + i);
-            if (step.node != path.getNode(i) || step.index != path.getIndex(i))
-                return false;
+    if (path.getFullLength() == 0)
+        return packets;
+    std::vector<const SceneScope*> open = scopesAlong(path);
+    while (!open.empty()) {
+        const SceneScope* scope = open.back();
+        open.pop_back();
+        for (const std::unique_ptr<SceneScope>& below : scope->scopes)
+            open.push_back(below.get());
+        for (const std::uint32_t number : scope->shapes) {
+            const SceneShape& shape = m_shapes[number];
+            if (!isReachedAlong(path, shape))
+                continue;
+            for (const std::uint32_t packet : shape.packets) {
+                if (packet != SceneShape::None)
+                    packets.push_back(packet);
+            }
         }
-        return true;
-    };
-    forEachShape([&](std::uint32_t, const SceneShape& shape) {
-        if (length == 0 || !leadsTo(shape))
-            return;
-        for (const std::uint32_t packet : shape.packets) {
-            if (packet != SceneShape::None)
-                packets.push_back(packet);
-        }
-    });
+    }
     return packets;
 }
 

@@ -108,6 +108,8 @@ public:
     std::vector<DrawList::Packet> packetsBelow(const SoPath& path) const;
 
 private:
+    bool isReachedAlong(const SoPath& path, const SceneShape& shape) const;
+    std::vector<const SceneScope*> scopesAlong(const SoPath& path) const;
     void updateItems(SceneShape& shape, std::uint32_t index);
     void removeItems(SceneShape& shape);
     std::vector<SceneStep> fullWay(const SceneShape& shape) const;
