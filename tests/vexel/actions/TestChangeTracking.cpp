@@ -126,6 +126,7 @@ private:
         if (node.isOfType(SoCube::getClassTypeId())) {
             static_cast<SoCube&>(node).width = 0.2f + real(0.1f);
             static_cast<SoCube&>(node).height = 0.2f + real(0.1f);
+            static_cast<SoCube&>(node).depth = 1 + real(0.5f);
         } else if (node.isOfType(SoBaseColor::getClassTypeId())) {
             static_cast<SoBaseColor&>(node).rgb = SbColor(0.5f + real(0.5f), 0.5f + real(0.5f), 0.5f + real(0.5f));
         } else if (node.isOfType(SoTranslation::getClassTypeId())) {
@@ -171,7 +172,7 @@ TEST_F(ChangeTracking, AfterRandomEditsTheSceneIsThatOfAFreshStart)
         read("");
         RandomEdits edits(root, seed);
         vexel::CompiledScene kept(*root);
-        for (int step = 0; step < 150; ++step) {
+        for (int step = 0; step < 200; ++step) {
             edits.edit();
             if (step % 3 == 0)
                 continue;
