@@ -23,9 +23,9 @@ protected:
     }
 
     /** The picture around the marker as text, from top to bottom. */
-    std::string seen(int size)
+    std::string seen(int size) { return seen(size, draw()); }
+    static std::string seen(int size, const QImage& picture)
     {
-        const QImage picture = draw();
         std::string text;
         int inside = 0;
         for (int row = 0; row < size; ++row) {
@@ -69,6 +69,19 @@ TEST_F(Markers, ASignIsDrawnPixelByPixelAboutItsPoint)
     show(numberOf(SoMarkerSet::SHIP_LINE, SoMarkerSet::SIZE_9_9));
     EXPECT_EQ("....#....\n....##...\n....#.#..\n....####.\n....#....\n#########\n.#.....#.\n..#...#..\n...###...\n",
               seen(9));
+}
+
+TEST_F(Markers, SmoothedEdgesLeaveTheSignAsItIs)
+{
+    const vexel::OffscreenTarget smooth(Size, Size, 4);
+    for (const int marker : {SoMarkerSet::markerOf(SoMarkerSet::SQUARE_LINE, SoMarkerSet::SIZE_7_7),
+                             SoMarkerSet::markerOf(SoMarkerSet::SHIP_FILLED, SoMarkerSet::SIZE_9_9)}) {
+        show(std::to_string(marker));
+        smooth.bind();
+        action->apply(root);
+        const int size = marker < 2 * SoMarkerSet::NumSigns ? 7 : 9;
+        EXPECT_EQ(seen(size), seen(size, smooth.image()));
+    }
 }
 
 TEST_F(Markers, EverySignOfTheTableLooksDifferent)

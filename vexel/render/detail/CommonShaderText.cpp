@@ -69,6 +69,7 @@ $end
 #endif
 #if SIGNS
     flat uvec4 sign; // three rows of nine bits each; w: its size
+    flat vec2 middle; // of the sign, in pixels
 #endif
 #if OUTPUT == ONE_COLOR
     float unused; // a block must not be empty

@@ -146,8 +146,9 @@ void main()
         discard;
 #endif
 #if SIGNS
-    ivec2 cell = clamp(ivec2(gl_PointCoord * float(surface.sign.w)), 0, int(surface.sign.w) - 1);
-    if ((surface.sign[cell.y / 3] >> uint(cell.y % 3 * 9 + cell.x) & 1u) == 0u)
+    vec2 offset = (gl_FragCoord.xy - surface.middle) * vec2(1.0, -1.0);
+    ivec2 cell = ivec2(floor(offset + 0.5 * float(surface.sign.w)));
+    if (min(cell.x, cell.y) < 0 || max(cell.x, cell.y) >= int(surface.sign.w) || (surface.sign[cell.y / 3] >> uint(cell.y % 3 * 9 + cell.x) & 1u) == 0u)
         discard;
 #endif
 #if OUTPUT == LAYER

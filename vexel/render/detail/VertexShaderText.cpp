@@ -77,12 +77,15 @@ $end
 #endif
 #endif
 #if SIGNS
-    gl_PointSize = float(sign.w);
+    // A pixel more on each side: where exactly the square of a point ends is not the same everywhere.
+    gl_PointSize = float(sign.w) + 2.0;
     surface.sign = sign;
     // In the middle of a pixel, so that the pixels of the sign are those of the screen.
     vec2 extent = 0.5 * viewport.zw;
+    vec2 place = floor((gl_Position.xy / gl_Position.w + 1.0) * extent) + 0.5;
+    surface.middle = viewport.xy + place;
     if (gl_Position.w > 0.0)
-        gl_Position.xy = (floor((gl_Position.xy / gl_Position.w + 1.0) * extent) + 0.5 - extent) / extent * gl_Position.w;
+        gl_Position.xy = (place - extent) / extent * gl_Position.w;
 #elif TOPOLOGY == POINTS
     gl_PointSize = pointSize;
 #endif
