@@ -23,22 +23,27 @@ inline void reportRatio(benchmark::State& state, double ours, double baseline)
 }
 
 /**
- * Times ours and the baseline in turns, keeps the best of each, and reports their ratio. Each is called after
- * @p prepare, which is not timed.
+ * Times ours and the baseline in turns, keeps the best of each, and reports their ratio; short work takes many turns.
+ * Each is called after @p prepare, which is not timed.
  */
 inline void compare(
     benchmark::State& state, const std::function<void()>& ours, const std::function<void()>& baseline,
     const std::function<void()>& prepare = [] {})
 {
-    constexpr int Rounds = 4;
+    constexpr int LeastRounds = 4;
+    constexpr double LeastSeconds = 0.3;
     double best = 1e9;
     double bestBaseline = 1e9;
     for (auto _ : state) {
-        for (int round = 0; round < Rounds; ++round) {
+        double spent = 0;
+        for (int round = 0; round < LeastRounds || spent < LeastSeconds; ++round) {
             prepare();
-            bestBaseline = std::min(bestBaseline, secondsOf(baseline));
+            const double baselineSeconds = secondsOf(baseline);
             prepare();
-            best = std::min(best, secondsOf(ours));
+            const double seconds = secondsOf(ours);
+            bestBaseline = std::min(bestBaseline, baselineSeconds);
+            best = std::min(best, seconds);
+            spent += baselineSeconds + seconds;
         }
         state.SetIterationTime(best);
     }
