@@ -110,26 +110,30 @@ std::vector<std::uint32_t> RenderGeometry::edges() const
     if (m_arrays.primitive != RenderPrimitive::Triangles)
         return m_arrays.primitive == RenderPrimitive::Lines ? m_arrays.indices : std::vector<std::uint32_t>();
     const std::vector<std::uint32_t> same = firstAtPlace(m_arrays.positions);
-    std::vector<std::uint64_t> keys;
+    // The vertices of the first edge between two places are kept, as normals and colours belong together.
+    struct Edge {
+        std::uint64_t places;
+        std::uint32_t vertices[2];
+    };
+    std::vector<Edge> found;
     const auto add = [&](std::uint32_t vertex, std::uint32_t other) {
         const std::uint64_t from = same[vertex];
         const std::uint64_t to = same[other];
         if (from != to)
-            keys.push_back(std::min(from, to) << 32 | std::max(from, to));
+            found.push_back({std::min(from, to) << 32 | std::max(from, to), {vertex, other}});
     };
-    keys.reserve(m_arrays.outline.empty() ? m_arrays.indices.size() : m_arrays.outline.size() / 2);
+    found.reserve(m_arrays.outline.empty() ? m_arrays.indices.size() : m_arrays.outline.size() / 2);
     for (std::size_t i = 0; i < m_arrays.outline.size(); i += 2)
         add(m_arrays.outline[i], m_arrays.outline[i + 1]);
     for (std::size_t i = 0; m_arrays.outline.empty() && i < m_arrays.indices.size(); ++i)
         add(m_arrays.indices[i], m_arrays.indices[i % 3 == 2 ? i - 2 : i + 1]);
-    std::sort(keys.begin(), keys.end());
-    keys.erase(std::unique(keys.begin(), keys.end()), keys.end());
+    std::stable_sort(found.begin(), found.end(), [](const Edge& x, const Edge& y) { return x.places < y.places; });
+    const auto end =
+        std::unique(found.begin(), found.end(), [](const Edge& x, const Edge& y) { return x.places == y.places; });
     std::vector<std::uint32_t> result;
-    result.reserve(keys.size() * 2);
-    for (const std::uint64_t key : keys) {
-        result.push_back(static_cast<std::uint32_t>(key >> 32));
-        result.push_back(static_cast<std::uint32_t>(key));
-    }
+    result.reserve(static_cast<std::size_t>(end - found.begin()) * 2);
+    for (auto edge = found.begin(); edge != end; ++edge)
+        result.insert(result.end(), {edge->vertices[0], edge->vertices[1]});
     return result;
 }
 

@@ -94,6 +94,14 @@ TEST_F(Highlights, AHaloMayBeHidden)
     EXPECT_GT(marks(draw(highlight), true), 20);
     highlight.setHaloAlwaysVisible(false);
     EXPECT_EQ(0, marks(draw(highlight), true));
+    // The same where edges are smoothed, so that the depth has several samples.
+    const vexel::OffscreenTarget smooth(Size, Size, 4);
+    for (const bool isVisible : {true, false}) {
+        highlight.setHaloAlwaysVisible(isVisible);
+        smooth.bind();
+        highlight.apply(root);
+        EXPECT_EQ(isVisible, marks(smooth.image(), true) > 20);
+    }
     selection->deselectAll();
     highlight.releaseGraphics();
 }

@@ -52,6 +52,19 @@ TEST_F(HighlightTest, HaloGlowsAroundTheOutlineThroughOtherThings)
     EXPECT_COLOR(picture.pixelColor(edge + 5, Size / 2), 0, 0, 255);
 }
 
+TEST_F(HighlightTest, AnEdgeBetweenTwoFacesIsOneEdgeOfOneFace)
+{
+    RenderGeometryArrays arrays;
+    // Two triangles with vertices of their own; two of each are at the same places.
+    arrays.positions = {SbVec3f(0, 0, 0), SbVec3f(1, 0, 0), SbVec3f(0, 1, 0),
+                        SbVec3f(0, 1, 0), SbVec3f(1, 0, 0), SbVec3f(1, 1, 0)};
+    const RenderGeometry geometry(std::move(arrays));
+    const std::vector<std::uint32_t> edges = geometry.edges();
+    ASSERT_EQ(10u, edges.size());
+    for (std::size_t i = 0; i < edges.size(); i += 2)
+        EXPECT_EQ(edges[i] < 3, edges[i + 1] < 3) << edges[i] << ' ' << edges[i + 1];
+}
+
 TEST_F(HighlightTest, HaloOfWhatIsHiddenShowsOnlyOnTop)
 {
     const DrawList::Packet chosen = list.add(scene, plain(square(0.25f), SbVec3f(1, 0, 0)));
