@@ -16,7 +16,7 @@
 /** Holds a scene and nothing else. */
 class PlainDocument : public SceneDocument {
 public:
-    ~PlainDocument() override { setSceneGraph(nullptr, false); }
+    ~PlainDocument() override { PlainDocument::setSceneGraph(nullptr, false); }
 
     SoNode* scene() const override { return m_scene; }
     void setSceneGraph(SoNode* root, bool resetCommands) override
