@@ -29,6 +29,7 @@ protected:
     void TearDown() override
     {
         view.reset();
+        selection->deselectAll(); // a path refers to where it begins
         selection->unref();
     }
 
