@@ -55,7 +55,6 @@ void RowList::remove(SoTreeViewItem* row)
     (row->m_previousInList ? row->m_previousInList->m_nextInList : list->m_first) = row->m_nextInList;
     (row->m_nextInList ? row->m_nextInList->m_previousInList : list->m_last) = row->m_previousInList;
     row->m_list = nullptr;
-    row->m_references = nullptr;
     if (--list->m_size == 0)
         list->m_registry->m_lists.erase(list->m_node);
 }

@@ -136,7 +136,7 @@ void SoNodescopeTreeView::reset(SoNode* node)
     }
     m_notifiesSelection = notifies;
     notifySelection(top);
-    resizeColumnsNow();
+    resizeAllColumns();
 }
 
 SoTreeViewItem* SoNodescopeTreeView::createItem(SoNode* node, SoTreeViewItem* parentRow, SoField* sourceField,

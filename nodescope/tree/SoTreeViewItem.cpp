@@ -3,7 +3,7 @@
 #include "detail/BuiltInImages.h"
 #include "detail/RowTexts.h"
 
-#include <vexel/nodes/SoNode.h>
+#include <vexel/nodekits/SoBaseKit.h>
 
 #include <QIcon>
 
@@ -11,38 +11,38 @@
 #include <cstdlib>
 
 SoTreeViewItem::SoTreeViewItem(SoNode* node, SoField* sourceField, SoTreeViewItem* futureParent, SoBaseKit* kit)
-    : m_node(node), m_sourceField(sourceField), m_kit(kit)
+    : m_node(node), m_sourceField(sourceField)
 {
-    initialise(futureParent);
+    initialise(futureParent, kit);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidget* view, SoNode* node, SoField* sourceField, SoBaseKit* kit)
-    : QTreeWidgetItem(view), m_node(node), m_sourceField(sourceField), m_kit(kit)
+    : QTreeWidgetItem(view), m_node(node), m_sourceField(sourceField)
 {
-    initialise(nullptr);
+    initialise(nullptr, kit);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidgetItem* parent, SoNode* node, SoField* sourceField, SoBaseKit* kit)
-    : QTreeWidgetItem(parent), m_node(node), m_sourceField(sourceField), m_kit(kit)
+    : QTreeWidgetItem(parent), m_node(node), m_sourceField(sourceField)
 {
-    initialise(static_cast<SoTreeViewItem*>(parent));
+    initialise(static_cast<SoTreeViewItem*>(parent), kit);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidget* view, QTreeWidgetItem* preceding, SoNode* node, SoField* sourceField,
                                SoBaseKit* kit)
-    : QTreeWidgetItem(view, preceding), m_node(node), m_sourceField(sourceField), m_kit(kit)
+    : QTreeWidgetItem(view, preceding), m_node(node), m_sourceField(sourceField)
 {
-    initialise(nullptr);
+    initialise(nullptr, kit);
 }
 
 SoTreeViewItem::SoTreeViewItem(QTreeWidgetItem* parent, QTreeWidgetItem* preceding, SoNode* node, SoField* sourceField,
                                SoBaseKit* kit)
-    : QTreeWidgetItem(parent, preceding), m_node(node), m_sourceField(sourceField), m_kit(kit)
+    : QTreeWidgetItem(parent, preceding), m_node(node), m_sourceField(sourceField)
 {
-    initialise(static_cast<SoTreeViewItem*>(parent));
+    initialise(static_cast<SoTreeViewItem*>(parent), kit);
 }
 
-void SoTreeViewItem::initialise(const SoTreeViewItem* parent)
+void SoTreeViewItem::initialise(const SoTreeViewItem* parent, const SoBaseKit* kit)
 {
     m_inFieldSubtree = m_sourceField || (parent && parent->m_inFieldSubtree);
     m_isIgnored = false;
@@ -52,6 +52,7 @@ void SoTreeViewItem::initialise(const SoTreeViewItem* parent)
     m_hasPendingChildren = false;
     m_childrenAreNumbered = false;
     m_marksReferences = false;
+    m_hasKit = kit != nullptr;
     // Leaves are marked, so that the view does not remember each of them as expanded.
     setChildIndicatorPolicy(DontShowIndicator);
     if (auto* view = static_cast<SoNodescopeTreeView*>(treeWidget()))
@@ -75,29 +76,38 @@ SoNode* SoTreeViewItem::parentNode() const
     return row ? row->node() : nullptr;
 }
 
+SoBaseKit* SoTreeViewItem::kit() const
+{
+    for (const SoTreeViewItem* above = m_hasKit ? parentRow() : nullptr; above; above = above->parentRow()) {
+        if (above->m_node->isOfType(SoBaseKit::getClassTypeId()))
+            return static_cast<SoBaseKit*>(above->m_node);
+    }
+    return nullptr;
+}
+
 bool SoTreeViewItem::isPart() const
 {
-    return m_kit && partRecord().isPart();
+    return m_hasKit && partRecord().isPart();
 }
 
 int SoTreeViewItem::partNumber() const
 {
-    return m_kit ? partRecord().number() : -1;
+    return m_hasKit ? partRecord().number() : -1;
 }
 
 SbName SoTreeViewItem::parentPartName() const
 {
-    return m_kit ? partRecord().parentName() : SbName();
+    return m_hasKit ? partRecord().parentName() : SbName();
 }
 
 SbName SoTreeViewItem::partName() const
 {
-    return m_kit ? partRecord().name() : SbName();
+    return m_hasKit ? partRecord().name() : SbName();
 }
 
 bool SoTreeViewItem::isPublicPart() const
 {
-    return m_kit && partRecord().isPublic();
+    return m_hasKit && partRecord().isPublic();
 }
 
 int SoTreeViewItem::referenceCount() const
@@ -406,7 +416,7 @@ QVariant SoTreeViewItem::data(int column, int role) const
         break;
     case Qt::FontRole:
         if (const auto* view = static_cast<const SoNodescopeTreeView*>(treeWidget())) {
-            const bool isFieldRow = m_kit ? fromField() && !isPart() : m_inFieldSubtree;
+            const bool isFieldRow = m_hasKit ? fromField() && !isPart() : m_inFieldSubtree;
             return isFieldRow && view->style().marksFieldRows() ? view->style().fieldFont() : view->style().typeFont();
         }
         break;

@@ -44,14 +44,15 @@ public:
     /** The parent row's node; null for a top-level row. */
     virtual SoNode* parentNode() const;
     /** True below a nodekit, whose catalog then describes the node. */
-    virtual bool hasPartRecord() const { return m_kit != nullptr; }
+    virtual bool hasPartRecord() const { return m_hasKit; }
     virtual bool isPart() const;
     /** Number in the kit's catalog; -1 when the node is no part. */
     virtual int partNumber() const;
     virtual SbName parentPartName() const;
     virtual SbName partName() const;
     virtual bool isPublicPart() const;
-    virtual SoBaseKit* kit() const { return m_kit; }
+    /** The nodekit nearest above; null for none. */
+    virtual SoBaseKit* kit() const;
     /** Marks the row with an arrow for as long as its node is shared, or never. */
     virtual void updateReferenceIcon(bool show);
 
@@ -80,11 +81,10 @@ public:
     /** True when this row or a row above it was reached through a field. */
     bool inFieldSubtree() const { return m_inFieldSubtree; }
     /** What the kit says of the node; to be asked only of a row that has a part record. */
-    NodekitPart partRecord() const { return NodekitPart(*m_kit, *m_node); }
+    NodekitPart partRecord() const { return NodekitPart(*kit(), *m_node); }
 
     /** The rows of the same node while its references are hidden; null otherwise. */
-    const RowList* references() const { return m_references; }
-    void setReferences(const RowList* references) { m_references = references; }
+    const RowList* references() const { return m_isActive ? nullptr : m_list; }
 
     SoTreeViewItem* parentRow() const;
     SoTreeViewItem* firstChild() const;
@@ -126,16 +126,14 @@ public:
 private:
     friend class RowList;
 
-    void initialise(const SoTreeViewItem* parent);
+    void initialise(const SoTreeViewItem* parent, const SoBaseKit* kit);
     bool viewShowsIgnored() const;
     void numberChildren() const;
     SoTreeViewItem* takeRow(int place);
     QVariant displayText(int column) const;
 
-    const RowList* m_references = nullptr;
     SoNode* m_node;
     SoField* m_sourceField;
-    SoBaseKit* m_kit;
     RowList* m_list = nullptr; ///< the registry's list of this row; null while the registry does not keep it
     SoTreeViewItem* m_nextInList = nullptr;
     SoTreeViewItem* m_previousInList = nullptr;
@@ -149,5 +147,6 @@ private:
     bool m_isCounted : 1;
     bool m_hasPendingChildren : 1;
     bool m_marksReferences : 1;
+    bool m_hasKit : 1;
     mutable bool m_childrenAreNumbered : 1;
 };

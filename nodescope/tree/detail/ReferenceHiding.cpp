@@ -12,19 +12,17 @@ void setDescendantsDisabled(SoTreeViewItem* row, bool isDisabled)
         row->childRow(i)->setDisabled(isDisabled);
 }
 
-void hideRow(SoTreeViewItem* row, const RowList* references)
+void hideRow(SoTreeViewItem* row)
 {
     row->setActive(false);
     setDescendantsDisabled(row, true);
     row->setIgnored(true);
-    row->setReferences(references);
 }
 
 void showRow(SoTreeViewItem* row)
 {
     row->setActive(true);
     row->setIgnored(false);
-    row->setReferences(nullptr);
     setDescendantsDisabled(row, false);
 }
 
@@ -44,7 +42,7 @@ void ReferenceHiding::hide(const SoTreeViewItem* row)
     forEachList(row, [](const RowList& list) {
         for (SoTreeViewItem* each = RowList::next(list.first()); each; each = RowList::next(each)) {
             if (each->isActive())
-                hideRow(each, &list);
+                hideRow(each);
         }
     });
 }

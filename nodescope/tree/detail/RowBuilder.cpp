@@ -10,12 +10,10 @@
 
 namespace {
 
-SoBaseKit* describingKit(const SoTreeViewItem* parent)
+/** The kit that describes what stands below a node, which another kit may describe itself. */
+SoBaseKit* kitBelow(SoNode& node, SoBaseKit* kit)
 {
-    if (!parent)
-        return nullptr;
-    SoNode* node = parent->node();
-    return node->isOfType(SoBaseKit::getClassTypeId()) ? static_cast<SoBaseKit*>(node) : parent->kit();
+    return node.isOfType(SoBaseKit::getClassTypeId()) ? static_cast<SoBaseKit*>(&node) : kit;
 }
 
 bool standsAmong(const SoNode* node, const SoTreeViewItem* row)
@@ -71,8 +69,9 @@ bool RowBuilder::makesAtMost(SoNode& root, int most)
 
 SoTreeViewItem* RowBuilder::build(SoNode& node, SoField* field, SoTreeViewItem* parent) const
 {
-    auto* row = new SoTreeViewItem(&node, field, parent, describingKit(parent));
-    fill(*row, nullptr, parent);
+    SoBaseKit* const kit = parent ? kitBelow(*parent->node(), parent->kit()) : nullptr;
+    auto* row = new SoTreeViewItem(&node, field, parent, kit);
+    fill(*row, {nullptr, parent, kit});
     return row;
 }
 
@@ -83,24 +82,23 @@ void RowBuilder::buildChildren(SoTreeViewItem& row) const
     row.appendRows(rows);
 }
 
-// The rows above one that is being built are those it is already put below, and then those of the view, above the place
-// where all of them will be put.
-void RowBuilder::fill(SoTreeViewItem& row, const SoTreeViewItem* above, const SoTreeViewItem* aboveInView) const
+void RowBuilder::fill(SoTreeViewItem& row, const Place& place) const
 {
     // The scene as a whole is held by whoever shows it; that does not make it a shared node.
-    const bool isTop = !above && !aboveInView;
+    const bool isTop = !place.above && !place.aboveInView;
     row.updateReferenceIcon(!isTop);
     // A graph that contains itself would go on for ever.
-    if (standsAmong(row.node(), above) || standsAmong(row.node(), aboveInView))
+    if (standsAmong(row.node(), place.above) || standsAmong(row.node(), place.aboveInView))
         return;
     if (m_children == Children::OnDemand) {
         if (hasRowSources(*row.node()))
             row.setPendingChildren(true);
         return;
     }
+    const Place below{&row, place.aboveInView, kitBelow(*row.node(), place.kit)};
     forEachRowSource(*row.node(), [&](SoNode& node, SoField* field) {
-        auto* child = new SoTreeViewItem(&node, field, &row, describingKit(&row));
+        auto* child = new SoTreeViewItem(&node, field, &row, below.kit);
         row.insertRow(row.childCount(), child);
-        fill(*child, &row, aboveInView);
+        fill(*child, below);
     });
 }

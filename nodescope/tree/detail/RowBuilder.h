@@ -1,6 +1,7 @@
 #pragma once
 
 class QTreeWidgetItem;
+class SoBaseKit;
 class SoField;
 class SoNode;
 class SoTreeViewItem;
@@ -21,7 +22,14 @@ public:
     static bool makesAtMost(SoNode& root, int most);
 
 private:
-    void fill(SoTreeViewItem& row, const SoTreeViewItem* above, const SoTreeViewItem* aboveInView) const;
+    /** What a row that is being built stands below. */
+    struct Place {
+        const SoTreeViewItem* above;       ///< the row it is put below already; null for none
+        const SoTreeViewItem* aboveInView; ///< the row of the view that all of them will be put below; null for none
+        SoBaseKit* kit;                    ///< the kit that describes it; null for none
+    };
+
+    void fill(SoTreeViewItem& row, const Place& place) const;
 
     Children m_children;
 };
