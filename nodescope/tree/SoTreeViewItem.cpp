@@ -10,6 +10,22 @@
 #include <algorithm>
 #include <cstdlib>
 
+namespace {
+
+/** Whether others than paths refer to the node more than once: that a path to it is selected shares nothing. */
+bool isShared(const SoNode& node)
+{
+    std::int64_t count = node.getRefCount();
+    const AuditorList& auditors = node.getAuditors();
+    for (std::size_t i = 0; count >= 2 && i < auditors.size(); ++i) {
+        if (auditors.at(i).type == SoAuditorType::Path)
+            count -= auditors.countAt(i);
+    }
+    return count >= 2;
+}
+
+} // namespace
+
 SoTreeViewItem::SoTreeViewItem(SoNode* node, SoField* sourceField, SoTreeViewItem* futureParent, SoBaseKit* kit)
     : m_node(node), m_sourceField(sourceField)
 {
@@ -408,7 +424,7 @@ QVariant SoTreeViewItem::data(int column, int role) const
             if (pixmap && !pixmap->isNull())
                 return RowTexts::icon(*pixmap);
         } else if (column == ReferenceIconColumn) {
-            if (m_marksReferences && referenceCount() >= 2 && icon(NameColumn).isNull())
+            if (m_marksReferences && isShared(*m_node) && icon(NameColumn).isNull())
                 return BuiltInImages::icon(QStringLiteral("ArrowShort"));
         } else if (column == BookmarkColumn) {
             return m_isBookmarked ? QIcon(QStringLiteral(":/Nodescope_icons/Icons/bookmark.png")) : QIcon();

@@ -215,6 +215,14 @@ TEST_F(Tracking, TheArrowOfASharedNodeComesAndGoes)
     EXPECT_TRUE(row({0})->icon(SoTreeViewItem::ReferenceIconColumn).isNull());
 }
 
+TEST_F(Tracking, ASelectedNodeIsNotSharedForThat)
+{
+    show("Separator { Cube { } }");
+    view->setCurrentItem(row({0}));
+    ASSERT_GE(row({0})->referenceCount(), 2);
+    EXPECT_TRUE(row({0})->icon(SoTreeViewItem::ReferenceIconColumn).isNull());
+}
+
 TEST_F(Tracking, AMovedNodeKeepsWhatTheUserOpenedAndMarked)
 {
     SoSeparator* root = show("Separator { Group { Group { Cube { } } } Separator { } }");
