@@ -64,7 +64,7 @@ private:
 
 bool RowBuilder::makesAtMost(SoNode& root, int most)
 {
-    return RowCounter(most).countAll(root) <= most;
+    return !hasRowSources(root) || RowCounter(most).countAll(root) <= most;
 }
 
 SoTreeViewItem* RowBuilder::build(SoNode& node, SoField* field, SoTreeViewItem* parent) const

@@ -78,6 +78,8 @@ int childRowSourceCount(const SoNode& node)
 
 bool hasRowSources(SoNode& node)
 {
+    if (childRowSourceCount(node) > 0)
+        return true;
     bool hasAny = false;
     forEachRowSource(node, [&hasAny](SoNode&, SoField*) { hasAny = true; });
     return hasAny;
