@@ -4,6 +4,7 @@
 #include <vexel/nodekits/SoNodeKitListPart.h>
 #include <vexel/nodekits/SoSeparatorKit.h>
 #include <vexel/nodekits/SoShapeKit.h>
+#include <vexel/nodes/SoCallback.h>
 #include <vexel/nodes/SoCone.h>
 #include <vexel/nodes/SoCube.h>
 #include <vexel/nodes/SoFile.h>
@@ -118,6 +119,21 @@ TEST_F(Deleting, APartThatTheKitKeepsIsReported)
     answers.expectBox("Nodescope Delete Node", "<i>\"topSeparator\"</i> part can't be deleted.", Ok, Ok);
     manager.treeDeleteNode(part);
     EXPECT_FALSE(action(ActionId::Undo).isEnabled());
+}
+
+TEST_F(Deleting, APartThatTheKitDoesNotTakeBackIsReported)
+{
+    SoSeparator* root = show("Separator { ShapeKit { } }");
+    auto* kit = static_cast<SoShapeKit*>(root->getChild(0));
+    ASSERT_TRUE(kit->setPart("callbackList[0]", new SoCallback));
+    manager.treeDeleteNode(findRow(top(), "callbackList[0]"));
+    auto* list = static_cast<SoNodeKitListPart*>(kit->getPart("callbackList", true));
+    ASSERT_EQ(list->getNumChildren(), 0);
+    list->childTypeNames.setValue("EventCallback"); // the host has changed its mind
+    ModalAnswers answers;
+    answers.expectBox("Nodescope Set Node", "Can't set callbackList[0].", Ok, Ok);
+    manager.undo();
+    EXPECT_EQ(list->getNumChildren(), 0);
 }
 
 TEST_F(Deleting, ItemsOfAListPartGoAndComeBackInTheirPlaces)
