@@ -461,6 +461,12 @@ void SoNodescopeTreeView::focusInEvent(QFocusEvent* event)
     emit focusReceived();
 }
 
+void SoNodescopeTreeView::focusOutEvent(QFocusEvent* event)
+{
+    m_drag->setSpaceHeld(false); // its release goes elsewhere
+    QTreeWidget::focusOutEvent(event);
+}
+
 void SoNodescopeTreeView::keyPressEvent(QKeyEvent* event)
 {
     switch (event->key()) {
