@@ -97,9 +97,25 @@ TEST_F(Deleting, NodesInFieldsGoAndComeBack)
     EXPECT_EQ(rows(), "Separator\n IndexedFaceSet\n  VertexProperty *\n");
 }
 
+TEST_F(Deleting, OneOfTheNodesInAFieldGoesAndComesBackInItsPlace)
+{
+    show("Separator { Rack { fields [ MFNode bins ] bins [ Cube { } NULL Sphere { } Cone { } ] } }");
+    ASSERT_EQ(rows(), "Separator\n UnknownNode\n  Cube *\n  Sphere *\n  Cone *\n");
+    const std::string before = text();
+    const SoTreeViewItem* cone = row({0, 2});
+    manager.treeDeleteNode(row({0, 1}));
+    EXPECT_EQ(rows(), "Separator\n UnknownNode\n  Cube *\n  Cone *\n");
+    EXPECT_EQ(row({0, 1}), cone) << "rows that are not concerned stay";
+    manager.undo();
+    EXPECT_EQ(text(), before);
+    EXPECT_EQ(rows(), "Separator\n UnknownNode\n  Cube *\n  Sphere *\n  Cone *\n");
+    manager.redo();
+    EXPECT_EQ(rows(), "Separator\n UnknownNode\n  Cube *\n  Cone *\n");
+}
+
 TEST_F(Deleting, PartsOfAKitGoAndComeBack)
 {
-    show("Separator { ShapeKit { material Material { diffuseColor 1 0 0 } shape Cone { } } }");
+    show("Separator { ShapeKit { shape Cone { } } }");
     const std::string before = text();
     SoTreeViewItem* cone = findRow(top(), "shape");
     ASSERT_TRUE(cone);
