@@ -86,6 +86,7 @@ void SoNodescopeViewer::makePanels()
     } else {
         m_frame.setCentralWidget(m_treeView);
     }
+    m_treeView->setFocus(); // the search box would keep the keys that edit the scene
 }
 
 void SoNodescopeViewer::makeExaminer()

@@ -9,14 +9,19 @@ constexpr int Deadline = 120000; // milliseconds; nothing is waited for that lon
 
 } // namespace
 
-ProgramRun runProgram(const QString& program, const QStringList& arguments)
+void startProgram(QProcess& process, const QString& program, const QStringList& arguments)
 {
-    QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // The plug-ins of an installed tree are no subject here, and their messages would stand among those compared.
     environment.insert("VXL_NODESCOPE_CONFIGURATION_FILE", QStringLiteral(EMPTY_CONFIGURATION));
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(PROGRAM_FOLDER "/") + program, arguments);
+}
+
+ProgramRun runProgram(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    startProgram(process, program, arguments);
     const bool hasEnded = process.waitForFinished(Deadline);
     if (!hasEnded)
         process.kill();

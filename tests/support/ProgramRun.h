@@ -5,6 +5,8 @@
 #include <QStringList>
 #include <string>
 
+class QProcess;
+
 /** How a program ended and what it wrote. */
 struct ProgramRun {
     int status = -1; ///< exit status; -1 when it crashed or did not end
@@ -12,7 +14,10 @@ struct ProgramRun {
     std::string err;
 };
 
-/** Runs one of the built programs, named without its folder, to its end. */
+/** Starts one of the built programs, named without its folder. */
+void startProgram(QProcess& process, const QString& program, const QStringList& arguments);
+
+/** Runs one of the built programs to its end. */
 ProgramRun runProgram(const QString& program, const QStringList& arguments);
 
 /** What stands in a file; nothing when there is none. */

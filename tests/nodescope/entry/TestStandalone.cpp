@@ -46,6 +46,12 @@ TEST_F(StandaloneTest, TheTreeStandsInADockBesideThe3DView)
     EXPECT_TRUE(frame().action(ActionId::Open)->isEnabled());
 }
 
+TEST_F(StandaloneTest, TheTreeHasTheKeyboardAtFirst)
+{
+    start();
+    EXPECT_EQ(frame().focusWidget(), SoNodescopeViewer::getInstance()->treeView());
+}
+
 TEST_F(InspectionTest, OnAHostTheTreeIsInTheMiddle)
 {
     _startNode(m_root, nullptr);
