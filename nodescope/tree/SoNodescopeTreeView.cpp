@@ -7,8 +7,8 @@
 #include "detail/CategoryFilter.h"
 #include "detail/ClassReference.h"
 #include "detail/ReferenceHiding.h"
-#include "detail/RowBuilder.h"
 #include "detail/RowDrag.h"
+#include "detail/RowFactory.h"
 #include "detail/RowHighlighter.h"
 #include "detail/RowSearch.h"
 #include "detail/RowTexts.h"
@@ -39,23 +39,11 @@ SoTreeViewItem* asRow(QTreeWidgetItem* item)
     return static_cast<SoTreeViewItem*>(item);
 }
 
-/** Whether groups and fields hold the node more than once in all. */
-bool hasSeveralParents(const SoNode& node)
-{
-    const AuditorList& auditors = node.getAuditors();
-    unsigned places = 0;
-    for (std::size_t i = 0; places < 2 && i < auditors.size(); ++i) {
-        const SoAuditorType type = auditors.at(i).type;
-        if (type == SoAuditorType::Container || type == SoAuditorType::Field)
-            places += auditors.countAt(i);
-    }
-    return places >= 2;
-}
-
 } // namespace
 
 SoNodescopeTreeView::SoNodescopeTreeView(QWidget* parent)
     : QTreeWidget(parent), m_registry(this), m_filter(std::make_unique<CategoryFilter>(this)),
+      m_factory(std::make_unique<RowFactory>(*this, *m_filter)),
       m_references(std::make_unique<ReferenceHiding>(m_registry)), m_highlighter(std::make_unique<RowHighlighter>()),
       m_topologyManager(std::make_unique<SoGraphTopologyManager>(this)), m_drag(std::make_unique<RowDrag>(*this))
 {
@@ -126,8 +114,7 @@ void SoNodescopeTreeView::reset(SoNode* node)
     const bool notifies = m_notifiesSelection;
     m_notifiesSelection = false;
     clear();
-    m_isBuiltOnDemand = false;
-    emit statusMessage(QString());
+    m_factory->restart();
     SoTreeViewItem* top = createItem(node, nullptr, nullptr, -1);
     if (top) {
         makePendingChildren(top);
@@ -142,76 +129,28 @@ void SoNodescopeTreeView::reset(SoNode* node)
 SoTreeViewItem* SoNodescopeTreeView::createItem(SoNode* node, SoTreeViewItem* parentRow, SoField* sourceField,
                                                 int position)
 {
-    if (!node)
-        return nullptr;
-    SoTreeViewItem* row = rowBuilder(*node).build(*node, sourceField, parentRow);
-    row->setIndex(position);
-    if (parentRow) {
-        int place = position;
-        if (position < 0) {
-            place = parentRow->childCount();
-            while (place > 0 && !parentRow->childRow(place - 1)->isCounted())
-                --place;
-        }
-        parentRow->insertRow(std::min(place, parentRow->childCount()), row);
-        if (!parentRow->isActive())
-            row->setDisabled(true); // as all below a hidden reference
-    } else {
-        insertTopLevelItem(position < 0 ? topLevelItemCount() : position, row);
-        row->setIndex(indexOfTopLevelItem(row));
-        m_registry.enter(row);
-    }
-    if (m_filter->mask() != Nsc::All_categories)
-        m_filter->applyTo(row);
-    return row;
-}
-
-RowBuilder SoNodescopeTreeView::rowBuilder(SoNode& node)
-{
-    if (!m_isBuiltOnDemand && !RowBuilder::makesAtMost(node, MostRowsAtOnce)) {
-        m_isBuiltOnDemand = true;
-        emit statusMessage(
-            tr("The graph has more than %L1 rows: rows are made when a row is opened.").arg(int(MostRowsAtOnce)));
-    }
-    return RowBuilder(m_isBuiltOnDemand ? RowBuilder::Children::OnDemand : RowBuilder::Children::AtOnce);
+    return node ? m_factory->make(*node, parentRow, sourceField, position) : nullptr;
 }
 
 void SoNodescopeTreeView::buildChildren(SoTreeViewItem* row)
 {
-    row->deleteChildren(false);
-    rowBuilder(*row->node()).buildChildren(*row);
-    row->setPendingChildren(false);
-    if (m_filter->mask() != Nsc::All_categories)
-        m_filter->applyTo(row);
+    m_factory->makeChildren(*row);
 }
 
 void SoNodescopeTreeView::makePendingChildren(SoTreeViewItem* row)
 {
     if (row->hasPendingChildren())
-        buildChildren(row);
+        m_factory->makeChildren(*row);
+}
+
+bool SoNodescopeTreeView::isBuiltOnDemand() const
+{
+    return m_factory->isOnDemand();
 }
 
 SoTreeViewItem* SoNodescopeTreeView::rowForPath(const SoPath& path, int firstNode)
 {
-    SoTreeViewItem* row = nullptr;
-    for (int i = 0; !row && firstNode < path.getFullLength() && i < topLevelItemCount(); ++i) {
-        if (asRow(topLevelItem(i))->node() == path.getNode(firstNode))
-            row = asRow(topLevelItem(i));
-    }
-    if (!row)
-        return nullptr;
-    for (int i = firstNode + 1; i < path.getFullLength(); ++i) {
-        makePendingChildren(row);
-        const SoNode* node = path.getNode(i);
-        // The row at the child's own place first; rows of fields stand elsewhere.
-        SoTreeViewItem* next = row->childRow(path.getIndex(i));
-        for (int place = 0; (!next || next->node() != node) && place < row->childCount(); ++place)
-            next = row->childRow(place);
-        if (!next || next->node() != node)
-            return row;
-        row = next;
-    }
-    return row;
+    return m_highlighter->rowAt(*this, path, firstNode);
 }
 
 SoTreeViewItem* SoNodescopeTreeView::find(int column, const QString& text, int flags)
@@ -333,16 +272,7 @@ void SoNodescopeTreeView::expandBelow(QTreeWidgetItem* item)
     }
     // With a layout to come, opening a row is only a note; without one, each row would lay out all those below.
     scheduleDelayedItemsLayout();
-    QList<SoTreeViewItem*> rows{asRow(item)};
-    for (int i = 0; i < rows.size() && rows.size() < MostRowsAtOnce; ++i) {
-        makePendingChildren(rows[i]);
-        for (int child = 0; child < rows[i]->childCount(); ++child) {
-            if (rows[i]->childRow(child)->childCount() > 0 || rows[i]->childRow(child)->hasPendingChildren())
-                rows.append(rows[i]->childRow(child));
-        }
-    }
-    for (int i = rows.size() - 1; i >= 0; --i)
-        rows[i]->setExpanded(true);
+    m_factory->expandBelow(*asRow(item));
 }
 
 void SoNodescopeTreeView::reapplyFilter()
@@ -383,11 +313,8 @@ void SoNodescopeTreeView::refreshSelection()
 
 SoNodescopeTreeView::References SoNodescopeTreeView::references(const SoTreeViewItem& row)
 {
-    // Most nodes stand in one place only; that is known without asking for their rows.
-    if (!hasSeveralParents(*row.node()))
-        return References::None;
-    const QList<SoTreeViewItem*> rows = m_registry.rows(row.node());
-    if (rows.size() < 2)
+    const QList<SoTreeViewItem*> rows = m_references->references(*row.node());
+    if (rows.isEmpty())
         return References::None;
     const bool allShown = std::all_of(rows.begin(), rows.end(), [](const SoTreeViewItem* r) { return r->isActive(); });
     return allShown ? References::Shown : References::Hidden;

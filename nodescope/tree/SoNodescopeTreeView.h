@@ -11,8 +11,8 @@
 
 class CategoryFilter;
 class ReferenceHiding;
-class RowBuilder;
 class RowDrag;
+class RowFactory;
 class RowHighlighter;
 class SoField;
 class SoGraphTopologyManager;
@@ -52,7 +52,7 @@ public:
     /** Makes the child rows of a row whose children are pending. */
     void makePendingChildren(SoTreeViewItem* row);
     /** True when there were too many rows to make them at once. */
-    bool isBuiltOnDemand() const { return m_isBuiltOnDemand; }
+    bool isBuiltOnDemand() const;
 
     NodeRowRegistry& rowRegistry() { return m_registry; }
     /** What keeps the rows in step with the graph. */
@@ -150,7 +150,6 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    RowBuilder rowBuilder(SoNode& node);
     SoTreeViewItem* stepReference(bool forward);
     SoTreeViewItem* stepBookmark(bool forward);
     void refreshSelection();
@@ -163,6 +162,7 @@ private:
     NodeRowRegistry m_registry;
     TreeStyle m_style;
     std::unique_ptr<CategoryFilter> m_filter;
+    std::unique_ptr<RowFactory> m_factory;
     std::unique_ptr<ReferenceHiding> m_references;
     std::unique_ptr<RowHighlighter> m_highlighter;
     std::unique_ptr<SoGraphTopologyManager> m_topologyManager;
@@ -170,6 +170,5 @@ private:
     bool m_shiftClicked = false;
     bool m_notifiesSelection = true;
     bool m_resizePending = false;
-    bool m_isBuiltOnDemand = false;
     bool m_showsIgnoredRows = false;
 };

@@ -4,6 +4,8 @@
 #include <nodescope/tree/RowList.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
+#include <vexel/nodes/SoNode.h>
+
 namespace {
 
 void setDescendantsDisabled(SoTreeViewItem* row, bool isDisabled)
@@ -24,6 +26,19 @@ void showRow(SoTreeViewItem* row)
     row->setActive(true);
     row->setIgnored(false);
     setDescendantsDisabled(row, false);
+}
+
+/** Whether groups and fields hold the node more than once in all. */
+bool hasSeveralParents(const SoNode& node)
+{
+    const AuditorList& auditors = node.getAuditors();
+    unsigned places = 0;
+    for (std::size_t i = 0; places < 2 && i < auditors.size(); ++i) {
+        const SoAuditorType type = auditors.at(i).type;
+        if (type == SoAuditorType::Container || type == SoAuditorType::Field)
+            places += auditors.countAt(i);
+    }
+    return places >= 2;
 }
 
 } // namespace
@@ -57,10 +72,17 @@ void ReferenceHiding::show(const SoTreeViewItem* row)
     });
 }
 
+QList<SoTreeViewItem*> ReferenceHiding::references(const SoNode& node) const
+{
+    // Most nodes stand in one place only; that is known without asking for their rows.
+    const QList<SoTreeViewItem*> rows = hasSeveralParents(node) ? m_registry.rows(&node) : QList<SoTreeViewItem*>();
+    return rows.size() < 2 ? QList<SoTreeViewItem*>() : rows;
+}
+
 SoTreeViewItem* ReferenceHiding::step(const SoTreeViewItem* row, bool forward) const
 {
-    const QList<SoTreeViewItem*> rows = m_registry.rows(row->node());
-    if (rows.size() < 2)
+    const QList<SoTreeViewItem*> rows = references(*row->node());
+    if (rows.isEmpty())
         return nullptr;
     const int place = rows.indexOf(const_cast<SoTreeViewItem*>(row));
     return rows[(place + (forward ? 1 : rows.size() - 1)) % rows.size()];

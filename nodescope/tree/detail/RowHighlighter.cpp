@@ -1,5 +1,6 @@
 #include "RowHighlighter.h"
 
+#include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
 #include <vexel/base/SoPath.h>
@@ -50,4 +51,26 @@ void RowHighlighter::highlight(const SoTreeViewItem& row)
     m_selection->deselectAll();
     m_selection->select(path);
     path->unref();
+}
+
+SoTreeViewItem* RowHighlighter::rowAt(SoNodescopeTreeView& view, const SoPath& path, int firstNode)
+{
+    SoTreeViewItem* row = nullptr;
+    for (int i = 0; !row && firstNode < path.getFullLength() && i < view.topLevelItemCount(); ++i) {
+        auto* top = static_cast<SoTreeViewItem*>(view.topLevelItem(i));
+        if (top->node() == path.getNode(firstNode))
+            row = top;
+    }
+    for (int i = firstNode + 1; row && i < path.getFullLength(); ++i) {
+        view.makePendingChildren(row);
+        const SoNode* node = path.getNode(i);
+        // The row at the child's own place first; rows of fields stand elsewhere.
+        SoTreeViewItem* next = row->childRow(path.getIndex(i));
+        for (int place = 0; (!next || next->node() != node) && place < row->childCount(); ++place)
+            next = row->childRow(place);
+        if (!next || next->node() != node)
+            return row;
+        row = next;
+    }
+    return row;
 }

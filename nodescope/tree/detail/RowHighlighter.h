@@ -1,5 +1,6 @@
 #pragma once
 
+class SoNodescopeTreeView;
 class SoPath;
 class SoSelection;
 class SoTreeViewItem;
@@ -15,6 +16,8 @@ public:
     void setEnabled(bool on) { m_isEnabled = on; }
     /** Marks the node of a row. A row that no path of children leads to leaves things as they are. */
     void highlight(const SoTreeViewItem& row);
+    /** See SoNodescopeTreeView::rowForPath(). */
+    static SoTreeViewItem* rowAt(SoNodescopeTreeView& view, const SoPath& path, int firstNode);
 
 private:
     SoPath* pathTo(const SoTreeViewItem& row) const;
