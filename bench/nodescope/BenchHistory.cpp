@@ -4,7 +4,6 @@
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 
-#include <QApplication>
 #include <bench/Compare.h>
 #include <benchmark/benchmark.h>
 #include <memory>
@@ -64,10 +63,3 @@ BENCHMARK(UndoAndRedo)
     ->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -311,11 +311,3 @@ BENCHMARK_CAPTURE(InsertInMany, Groups, false)->Arg(1000)->Arg(10000)->ArgName("
 BENCHMARK(HostSecond)->Apply(once);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -3,39 +3,16 @@
 #include <functional>
 #include <malloc.h>
 
-#include <QApplication>
 #include <QTreeWidget>
 
 #include <bench/Compare.h>
+#include <bench/nodescope/Graphs.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
 #include <vexel/io/SoDB.h>
-#include <vexel/nodes/SoCube.h>
-#include <vexel/nodes/SoSeparator.h>
 
 namespace {
-
-/** A separator with that many nodes below it: all children of one, or each group with eight children. */
-SoSeparator* makeGraph(int numNodes, bool isFlat)
-{
-    auto* root = new SoSeparator;
-    root->ref();
-    root->enableNotify(false);
-    std::vector<SoGroup*> groups{root};
-    std::size_t parent = 0;
-    for (int made = 1; made < numNodes; ++made) {
-        while (!isFlat && groups[parent]->getNumChildren() == 8)
-            ++parent;
-        const bool isGroup = !isFlat && groups.size() * 8 < std::size_t(numNodes);
-        SoNode* node = isGroup ? static_cast<SoNode*>(new SoGroup) : new SoCube;
-        groups[isFlat ? 0 : parent]->addChild(node);
-        if (isGroup)
-            groups.push_back(static_cast<SoGroup*>(node));
-    }
-    root->enableNotify(true);
-    return root;
-}
 
 /** The least that a row can be. */
 class BareItem : public QTreeWidgetItem {
@@ -72,7 +49,7 @@ void BuildRows(benchmark::State& state)
 {
     SoDB::init();
     const int numRows = int(state.range(0));
-    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoSeparator* root = makeGraph(numRows, GraphShape(state.range(1)));
     SoNodescopeTreeView view;
     QTreeWidget bare;
     bare.setColumnCount(5);
@@ -104,7 +81,7 @@ void RowMemory(benchmark::State& state)
 {
     SoDB::init();
     const int numRows = int(state.range(0));
-    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoSeparator* root = makeGraph(numRows, GraphShape(state.range(1)));
     SoNodescopeTreeView view;
     QTreeWidget bare;
     bare.setColumnCount(5);
@@ -129,7 +106,7 @@ void ExpandAll(benchmark::State& state)
 {
     SoDB::init();
     const int numRows = int(state.range(0));
-    SoSeparator* root = makeGraph(numRows, state.range(1) == 1);
+    SoSeparator* root = makeGraph(numRows, GraphShape(state.range(1)));
     SoNodescopeTreeView view;
     view.reset(root);
     QTreeWidget bare;
@@ -153,7 +130,7 @@ void ChangeFilter(benchmark::State& state)
 {
     SoDB::init();
     const int numRows = int(state.range(0));
-    SoSeparator* root = makeGraph(numRows, false);
+    SoSeparator* root = makeGraph(numRows, Eight_each);
     SoNodescopeTreeView view;
     view.reset(root);
     std::int64_t seen = 0;
@@ -196,11 +173,3 @@ BENCHMARK(ExpandAll)
 BENCHMARK(ChangeFilter)->Arg(1000000)->ArgName("rows")->Iterations(1)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 } // namespace
-
-int main(int argc, char** argv)
-{
-    QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}
