@@ -77,11 +77,11 @@ function(nodescope_use_automoc TARGET)
   endif()
 endfunction()
 
-# nodescope_add_library(NAME [AUTOMOC] [PACKAGE Nodescope] [AS NAME] FOLDERS ... LINK ... [PRIVATE_LINK ...] [RESOURCES ...]): a shared
-# library made of all sources in FOLDERS; with AUTOMOC when classes in it have signals or slots. Programs outside find it as
-# PACKAGE::AS once it is installed.
+# nodescope_add_library(NAME [AUTOMOC] [FORMS FOLDER] [PACKAGE Nodescope] [AS NAME] FOLDERS ... LINK ... [PRIVATE_LINK ...]
+# [RESOURCES ...]): a shared library made of all sources in FOLDERS; with AUTOMOC when classes in it have signals or slots, with
+# FORMS when they include "ui_X.h" of designer forms in that folder. Programs outside find it as PACKAGE::AS once it is installed.
 function(nodescope_add_library NAME)
-  cmake_parse_arguments(ARG "AUTOMOC" "PACKAGE;AS" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
+  cmake_parse_arguments(ARG "AUTOMOC" "FORMS;PACKAGE;AS" "FOLDERS;LINK;PRIVATE_LINK;RESOURCES" ${ARGN})
   if(NOT ARG_PACKAGE)
     set(ARG_PACKAGE Nodescope)
   endif()
@@ -93,6 +93,11 @@ function(nodescope_add_library NAME)
   set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX EXPORT_NAME ${ARG_AS})
   if(ARG_AUTOMOC)
     nodescope_use_automoc(${NAME})
+  endif()
+  if(ARG_FORMS)
+    set_target_properties(${NAME} PROPERTIES AUTOUIC ON AUTOUIC_SEARCH_PATHS "${CMAKE_CURRENT_SOURCE_DIR}/${ARG_FORMS}")
+    # Headers of widgets include those of their forms.
+    target_include_directories(${NAME} INTERFACE "$<BUILD_INTERFACE:${CMAKE_CURRENT_BINARY_DIR}/${NAME}_autogen/include>")
   endif()
   target_compile_features(${NAME} PUBLIC cxx_std_17)
   target_link_libraries(${NAME} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})

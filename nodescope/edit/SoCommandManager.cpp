@@ -5,9 +5,12 @@
 #include "SoTreeAddNodeCommand.h"
 #include "SoTreeDeleteNodeCommand.h"
 #include "SoTreeMoveNodeCommand.h"
+#include "detail/PreferencePages.h"
 #include "detail/SceneClipboard.h"
 
+#include <nodescope/mainframe/OnlineReference.h>
 #include <nodescope/mainframe/SceneFileHandler.h>
+#include <nodescope/mainframe/SoAboutNodescope.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 #include <nodescope/tree/NodeSearch.h>
 #include <nodescope/tree/NscFindDialog.h>
@@ -19,6 +22,7 @@
 
 #include <QAction>
 #include <QComboBox>
+#include <QDesktopServices>
 #include <QFileDialog>
 
 SoCommandManager::SoCommandManager(QObject* parent) : QObject(parent), m_history(new CommandHistory(this)) {}
@@ -348,4 +352,22 @@ void SoCommandManager::setFilter(int filter)
 {
     if (m_treeView)
         m_treeView->setFilter(filter);
+}
+
+void SoCommandManager::editPreferences()
+{
+    PreferencePages::edit();
+}
+
+void SoCommandManager::launchAboutNodescopeFrame()
+{
+    // The inspection, and with it the box, may end while the box is open.
+    const QPointer<SoAboutNodescope> box = new SoAboutNodescope(m_frame);
+    box->exec();
+    delete box;
+}
+
+void SoCommandManager::launchNodescopeHelpViewer()
+{
+    QDesktopServices::openUrl(OnlineReference::toolPage());
 }

@@ -106,6 +106,13 @@ public slots:
     /** Shows the rows whose category is in the mask. */
     void setFilter(int filter);
 
+    /** Lets the user change the preferences, in a modal dialog. */
+    void editPreferences();
+    /** Shows the about box, modally. */
+    void launchAboutNodescopeFrame();
+    /** Opens the user's guide in the desktop's browser. */
+    void launchNodescopeHelpViewer();
+
 private:
     SoTreeViewItem* currentRow() const;
     NscFindDialog& findDialog();

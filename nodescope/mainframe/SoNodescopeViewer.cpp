@@ -3,6 +3,7 @@
 #include "detail/HighlightChoice.h"
 #include "detail/NodeKeeper.h"
 #include "detail/PanelDocks.h"
+#include "detail/ViewerPages.h"
 
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/preferences/SoNodescopeStateManager.h>
@@ -26,7 +27,6 @@
 namespace {
 
 constexpr int Tree_width = 420;
-const SbColorRGBA Background(0.24f, 0.27f, 0.31f, 1); ///< dark and bright things are both seen before it
 
 SoNodescopeViewer* instance = nullptr;
 
@@ -49,14 +49,13 @@ void SoNodescopeViewer::deleteInstance()
 SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services)
     : m_frame(frame), m_services(services), m_sceneFiles(frame, *this), m_selection(new SoSelection),
       m_treeView(new SoNodescopeTreeView(&frame)),
-      m_highlights(SoPreferenceStore::getInstance()->readHighlightSelectedNode(SoPreferenceStore::TreeViewGroup))
+      m_pages(std::make_unique<ViewerPages>([this] { applyPreferences(); }))
 {
     m_selection->ref();
     m_selection->policy.setValue(SoSelection::SINGLE);
     makePanels();
     m_treeView->setSceneGraph(m_selection);
-    m_treeView->setHighlightingEnabled(m_highlights);
-    m_services.setSelection(m_highlights ? m_selection : nullptr);
+    applyPreferences();
     connect(m_treeView, &SoNodescopeTreeView::newSceneGraph, &m_services, &NscServicesImpl::announceSceneGraph);
     connect(m_treeView, &SoNodescopeTreeView::rowSelected, this, &SoNodescopeViewer::selectNode);
     connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
@@ -99,11 +98,44 @@ void SoNodescopeViewer::makeExaminer()
     m_services.setRenderArea(m_examiner.get());
     SoSceneManager* const sceneManager = m_examiner->getSceneManager();
     m_services.setSceneManager(sceneManager);
-    m_examiner->setBackgroundColorRGBA(Background);
-    if (SoHighlightRenderAction* action = HighlightChoice::makeAction(sceneManager->getViewportRegion())) {
-        action->setVisible(m_highlights);
+    if (SoHighlightRenderAction* action = HighlightChoice::makeAction(sceneManager->getViewportRegion()))
         sceneManager->setGLRenderAction(action);
-    }
+}
+
+std::vector<PreferenceRecord> SoNodescopeViewer::preferencePages()
+{
+    return m_pages->records(m_examiner != nullptr);
+}
+
+void SoNodescopeViewer::applyPreferences()
+{
+    const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
+    m_treeView->initPreferences();
+    setHighlighting(store.readHighlightSelectedNode(SoPreferenceStore::TreeViewGroup));
+    if (!m_examiner)
+        return;
+    const QColor background = store.readBackground();
+    m_examiner->setBackgroundColorRGBA(
+        SbColorRGBA(float(background.redF()), float(background.greenF()), float(background.blueF()), 1));
+    SoSceneManager& sceneManager = *m_examiner->getSceneManager();
+    sceneManager.getGLRenderAction()->setTransparencyType(
+        SoGLRenderAction::TransparencyType(store.readTransparencyType()));
+    sceneManager.scheduleRedraw();
+}
+
+void SoNodescopeViewer::setHighlighting(bool on)
+{
+    if (!on)
+        m_selection->deselectAll();
+    m_highlights = on;
+    m_treeView->setHighlightingEnabled(on);
+    m_services.setSelection(on ? m_selection : nullptr);
+    SoSceneManager* const sceneManager = m_examiner ? m_examiner->getSceneManager() : nullptr;
+    if (auto* action =
+            sceneManager ? dynamic_cast<SoHighlightRenderAction*>(sceneManager->getGLRenderAction()) : nullptr)
+        action->setVisible(on);
+    if (SoTreeViewItem* const row = on ? m_treeView->currentRow() : nullptr)
+        m_treeView->onItemClicked(row, 0);
 }
 
 void SoNodescopeViewer::registerTreeState()

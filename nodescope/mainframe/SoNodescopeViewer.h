@@ -3,9 +3,11 @@
 #include <nodescope/NodescopeApi.h>
 #include <nodescope/mainframe/SceneDocument.h>
 #include <nodescope/mainframe/SceneFiles.h>
+#include <nodescope/preferences/PreferenceRecord.h>
 
 #include <QObject>
 #include <memory>
+#include <vector>
 
 class NscServicesImpl;
 class SoNodescopeMainFrame;
@@ -15,6 +17,7 @@ class SbViewportRegion;
 class SoQtExaminerViewer;
 class SoSelection;
 class SoTreeViewItem;
+class ViewerPages;
 
 /**
  * The displayed scene: the selection node that stands above it, the tree view and the docks that show it, and its
@@ -34,6 +37,10 @@ public:
     /** Root of what is displayed: the scene is its child, with what was pasted beside it. */
     SoSelection* selection() const { return m_selection; }
     SceneFiles& sceneFiles() { return m_sceneFiles; }
+    /** The pages of the 3D view, if it has one, and of the tree. */
+    std::vector<PreferenceRecord> preferencePages();
+    /** Reads the preferences of the 3D view and the tree from the store. */
+    void applyPreferences();
 
     /** Makes the row current whose node is under a place of the host's picture. Nothing when standalone, or while the
      * host's viewer uses the mouse for its camera. */
@@ -49,6 +56,7 @@ private:
     void makePanels();
     void makeExaminer();
     void registerTreeState();
+    void setHighlighting(bool on);
     void selectNode(SoTreeViewItem* row);
 
     SoNodescopeMainFrame& m_frame;
@@ -57,5 +65,6 @@ private:
     std::unique_ptr<SoQtExaminerViewer> m_examiner; ///< null on a host
     SoSelection* m_selection;
     SoNodescopeTreeView* m_treeView;
-    bool m_highlights;
+    std::unique_ptr<ViewerPages> m_pages;
+    bool m_highlights = true;
 };

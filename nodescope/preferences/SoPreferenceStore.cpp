@@ -11,6 +11,11 @@ namespace {
 constexpr int Fallback_point_size = 10;
 constexpr int Heaviest_normal_weight = 57;
 
+const QString Transparency_key = QStringLiteral("/ViewerPreferences/TransparencyType");
+const QString Background_key = QStringLiteral("/ViewerPreferences/BackgroundColor");
+constexpr int Transparency_types = 4;
+constexpr int Default_transparency = 2;
+
 SoPreferenceStore* Instance = nullptr;
 
 // Lives as long as the process: its values must outlast the store, which goes with each stop of the inspector.
@@ -77,7 +82,8 @@ std::optional<DisplayElement> loadElement(const SoPreferenceStore& store, const 
     DisplayElement element;
     element.font = QFont(reader.string("/family"));
     const int size = reader.integer("/size");
-    element.font.setPointSize(size > 0 ? size : Fallback_point_size);
+    const bool isSize = size >= SoPreferenceStore::SmallestFont && size <= SoPreferenceStore::LargestFont;
+    element.font.setPointSize(isSize ? size : Fallback_point_size);
     element.font.setWeight(reader.boolean("/bold") ? QFont::Bold : QFont::Normal);
     element.font.setItalic(reader.boolean("/italic"));
     element.font.setUnderline(reader.boolean("/underline"));
@@ -115,7 +121,9 @@ bool SoPreferenceStore::readBool(const QString& key, bool defaultValue, bool* ex
 
 int SoPreferenceStore::readInt(const QString& key, int defaultValue, bool* exists) const
 {
-    return readValue(key, defaultValue, exists).toInt();
+    bool isNumber = false;
+    const int value = readValue(key, defaultValue, exists).toInt(&isNumber);
+    return isNumber ? value : defaultValue;
 }
 
 QString SoPreferenceStore::readString(const QString& key, const QString& defaultValue, bool* exists) const
@@ -224,4 +232,26 @@ bool SoPreferenceStore::readRealNodekitsCounter(const QString& group) const
 void SoPreferenceStore::writeRealNodekitsCounter(const QString& group, bool isOn)
 {
     writeBool(group + "/RealNodekitsCounter", isOn);
+}
+
+int SoPreferenceStore::readTransparencyType() const
+{
+    const int type = readInt(Transparency_key, Default_transparency);
+    return type >= 0 && type < Transparency_types ? type : Default_transparency;
+}
+
+void SoPreferenceStore::writeTransparencyType(int type)
+{
+    writeInt(Transparency_key, type);
+}
+
+QColor SoPreferenceStore::readBackground() const
+{
+    const QColor color(readString(Background_key, QString()));
+    return color.isValid() ? color : defaultBackground();
+}
+
+void SoPreferenceStore::writeBackground(const QColor& color)
+{
+    writeString(Background_key, color.name());
 }

@@ -18,6 +18,10 @@ public:
     static constexpr char NodeOverviewGroup[] = "/NodeOverviewPreferences/";
     static constexpr char MainFrameGroup[] = "/NodescopeViewer/NodescopeMainFrame";
 
+    /** Sizes of an element's font, in points; others in the store count as damaged. */
+    static constexpr int SmallestFont = 1;
+    static constexpr int LargestFont = 200;
+
     /** The one store, created on first use. */
     static SoPreferenceStore* getInstance();
     /** Puts what was written on disk and deletes the store; the next getInstance() creates it anew. */
@@ -53,6 +57,16 @@ public:
     void writeHighlightSelectedNode(const QString& group, bool isOn);
     bool readRealNodekitsCounter(const QString& group) const;
     void writeRealNodekitsCounter(const QString& group, bool isOn);
+
+    /** The 3D view's key "/ViewerPreferences/TransparencyType": a value of SoGLRenderAction::TransparencyType as int;
+     * SORTED_OBJECT when it is none. */
+    int readTransparencyType() const;
+    void writeTransparencyType(int type);
+    /** The 3D view's key "/ViewerPreferences/BackgroundColor": text "#rrggbb"; defaultBackground() when it is none. */
+    QColor readBackground() const;
+    void writeBackground(const QColor& color);
+    /** Before it dark and bright things are both seen. */
+    static QColor defaultBackground() { return QColor(0x3d, 0x45, 0x4f); }
 
 private:
     SoPreferenceStore() = default;

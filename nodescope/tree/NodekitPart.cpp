@@ -5,7 +5,7 @@
 #include <vexel/nodekits/SoNodekitCatalog.h>
 
 NodekitPart::NodekitPart(SoBaseKit& kit, const SoNode& node)
-    : m_kit(kit), m_name(kit.getPartString(&node).toLatin1().constData())
+    : m_kit(kit), m_node(node), m_name(kit.getPartString(&node).toLatin1().constData())
 {
     if (isPart())
         m_number = kit.getNodekitCatalog().getPartNumber(m_name);
@@ -31,4 +31,21 @@ bool NodekitPart::isPublic() const
 bool NodekitPart::isNested() const
 {
     return m_number >= 0 && m_kit.getNodekitCatalog().getParentPartNumber(m_number) != 0;
+}
+
+int NodekitPart::innerPlaces() const
+{
+    if (!isPart())
+        return 0;
+    const AuditorList& auditors = m_node.getAuditors();
+    int places = 0;
+    for (std::size_t i = 0; i < auditors.size(); ++i) {
+        const auto [auditor, type] = auditors.at(i);
+        if (type != SoAuditorType::Container)
+            continue;
+        const auto* above = static_cast<const SoNode*>(static_cast<const SoFieldContainer*>(auditor));
+        if (above == &m_kit || !m_kit.getPartString(above).isEmpty())
+            places += int(auditors.countAt(i));
+    }
+    return places;
 }

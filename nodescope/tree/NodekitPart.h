@@ -27,9 +27,13 @@ public:
     bool isPublic() const;
     /** True when the part hangs below another part, under which it is shown. */
     bool isNested() const;
+    /** In how many places of its inner graph the kit has the part: references besides that of the field that holds it.
+     */
+    int innerPlaces() const;
 
 private:
     SoBaseKit& m_kit;
+    const SoNode& m_node;
     SbName m_name;
     int m_number = -1;
 };

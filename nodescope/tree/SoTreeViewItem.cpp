@@ -407,10 +407,27 @@ QVariant SoTreeViewItem::displayText(int column) const
         return RowTexts::name(part.isEmpty() ? m_node->getName() : part);
     }
     case ReferenceCountColumn:
-        return QString::number(referenceCount());
+        return QString::number(shownReferenceCount());
     default:
         return QVariant();
     }
+}
+
+int SoTreeViewItem::shownReferenceCount() const
+{
+    const bool countsAll = !m_hasKit || !style() || style()->countsAllReferences();
+    return countsAll ? referenceCount() : referenceCount() - partRecord().innerPlaces();
+}
+
+const TreeStyle* SoTreeViewItem::style() const
+{
+    const auto* view = static_cast<const SoNodescopeTreeView*>(treeWidget());
+    return view ? &view->style() : nullptr;
+}
+
+bool SoTreeViewItem::looksFromField(const TreeStyle& style) const
+{
+    return style.marksFieldRows() && (m_hasKit ? fromField() && !isPart() : m_inFieldSubtree);
 }
 
 QVariant SoTreeViewItem::data(int column, int role) const
@@ -431,14 +448,13 @@ QVariant SoTreeViewItem::data(int column, int role) const
         }
         break;
     case Qt::FontRole:
-        if (const auto* view = static_cast<const SoNodescopeTreeView*>(treeWidget())) {
-            const bool isFieldRow = m_hasKit ? fromField() && !isPart() : m_inFieldSubtree;
-            return isFieldRow && view->style().marksFieldRows() ? view->style().fieldFont() : view->style().typeFont();
-        }
+        if (const TreeStyle* look = style())
+            return look->font(column, looksFromField(*look));
         break;
     case Qt::ForegroundRole:
-        if (column >= 0 && column < ColumnCount)
-            return RowTexts::color(column, m_isIgnored);
+        if (const TreeStyle* look = style(); look && column >= 0 && column < ColumnCount)
+            return m_isIgnored && column == TypeColumn ? QColor(Qt::darkGray)
+                                                       : look->color(column, looksFromField(*look));
         break;
     case Qt::UserRole:
         if (column == TypeColumn)

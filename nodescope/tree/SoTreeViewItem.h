@@ -10,6 +10,7 @@ class SbName;
 class SoBaseKit;
 class SoField;
 class SoNode;
+class TreeStyle;
 
 /**
  * A row of the tree view: one node, reached one way. A node that is shared has several rows.
@@ -131,6 +132,10 @@ private:
     void numberChildren() const;
     SoTreeViewItem* takeRow(int place);
     QVariant displayText(int column) const;
+    int shownReferenceCount() const;
+    /** Whether the row has the look of rows that come from fields. */
+    bool looksFromField(const TreeStyle& style) const;
+    const TreeStyle* style() const;
 
     SoNode* m_node;
     SoField* m_sourceField;

@@ -1,23 +1,36 @@
 #pragma once
 
+#include <nodescope/NodescopeApi.h>
 #include <nodescope/preferences/DisplayElement.h>
 
+#include <array>
+
 /** The fonts and colours of the tree's texts, and which of them are shown, as the preference store keeps them. */
-class TreeStyle {
+class NODESCOPE_API TreeStyle {
 public:
     void load();
     void save() const;
 
-    const DisplayElementMap& elements() const { return m_elements; }
-    void setElements(const DisplayElementMap& elements) { m_elements = elements; }
-
-    QFont typeFont() const { return m_elements.value(QStringLiteral("Node Type")).font; }
-    QFont fieldFont() const { return m_elements.value(QStringLiteral("Node From Field")).font; }
-    /** Whether rows of nodes that are held in fields have their own font. */
-    bool marksFieldRows() const { return m_elements.value(QStringLiteral("Node From Field")).isShown; }
-    bool showsNames() const { return m_elements.value(QStringLiteral("Node/Part Name")).isShown; }
-    bool showsReferenceCounts() const { return m_elements.value(QStringLiteral("Reference Count")).isShown; }
+    const QFont& typeFont() const { return element(Type).font; }
+    const QFont& fieldFont() const { return element(Field).font; }
+    /** The look of a column's texts; that of field rows is their own. */
+    ///@{
+    const QFont& font(int column, bool isFieldRow) const;
+    QColor color(int column, bool isFieldRow) const;
+    ///@}
+    /** Whether rows of nodes that are held in fields have their own font and colour. */
+    bool marksFieldRows() const { return element(Field).isShown; }
+    bool showsNames() const { return element(Name).isShown; }
+    bool showsReferenceCounts() const { return element(ReferenceCount).isShown; }
+    /** Whether the references by which a kit holds its parts inside itself are counted, too. */
+    bool countsAllReferences() const { return m_countsAllReferences; }
 
 private:
-    DisplayElementMap m_elements;
+    enum Element { Type, Name, ReferenceCount, Field, ElementCount }; ///< the first ones as the tree's columns
+
+    const DisplayElement& element(Element which) const { return m_elements[which]; }
+
+    std::array<DisplayElement, ElementCount> m_elements;
+    std::array<bool, ElementCount> m_hasOwnFont{};
+    bool m_countsAllReferences = false;
 };

@@ -19,10 +19,11 @@ std::vector<const RepositoryFile*> drawings()
     return found;
 }
 
-/** Lines of the tree's branches have the grid of a tree cell; the window's icon stands alone. */
+/** Lines of the tree's branches have the grid of a tree cell; the window's icon and the about box stand alone. */
 bool hasOwnGrid(const std::string& path)
 {
-    static const std::set<std::string> Names{"vline", "branch-more", "branch-end", "NodescopeIcon"};
+    static const std::set<std::string> Names{"vline",         "branch-more", "branch-end",
+                                             "NodescopeIcon", "aboutlogo",   "aboutribbon"};
     const auto slash = path.rfind('/') + 1;
     return Names.count(path.substr(slash, path.rfind('.') - slash)) != 0;
 }

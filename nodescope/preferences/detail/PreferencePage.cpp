@@ -1,6 +1,7 @@
 #include "PreferencePage.h"
 #include <nodescope/preferences/SoPreferenceStore.h>
 
+#include <QtGlobal>
 #include <algorithm>
 
 namespace {
@@ -12,17 +13,17 @@ constexpr QRgb Blue = qRgb(0, 0, 255);
 constexpr int None = -1;
 
 const std::vector<PreferenceElement> Value_elements{
-    {"Default Value", nullptr, false, Black},
-    {"Changed Value", nullptr, false, Red},
+    {QT_TRANSLATE_NOOP("PreferencePage", "Default Value"), nullptr, false, Black},
+    {QT_TRANSLATE_NOOP("PreferencePage", "Changed Value"), nullptr, false, Red},
 };
 
 const std::vector<PreferencePage> Pages{
     {SoPreferenceStore::TreeViewGroup,
      true,
-     {{"Node Type", nullptr, false, Black},
-      {"Node/Part Name", nullptr, true, Dark_green},
-      {"Reference Count", nullptr, false, Blue},
-      {"Node From Field", "Times New Roman", false, Black}},
+     {{QT_TRANSLATE_NOOP("PreferencePage", "Node Type"), nullptr, false, Black},
+      {QT_TRANSLATE_NOOP("PreferencePage", "Node/Part Name"), nullptr, true, Dark_green},
+      {QT_TRANSLATE_NOOP("PreferencePage", "Reference Count"), nullptr, false, Blue},
+      {QT_TRANSLATE_NOOP("PreferencePage", "Node From Field"), "Times New Roman", false, Black}},
      {None, None, None, None, None}},
     {SoPreferenceStore::FieldWatchGroup, false, Value_elements, {0, 0, None, None, 0}},
     {SoPreferenceStore::NodeOverviewGroup, false, Value_elements, {20, 20, 0, 0, None}},

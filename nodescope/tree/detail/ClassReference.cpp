@@ -1,10 +1,8 @@
 #include "ClassReference.h"
 
-#include <QString>
+#include <nodescope/mainframe/OnlineReference.h>
 
-namespace {
-const char Address_prefix[] = "https://nodescope.example/reference/class";
-}
+#include <QString>
 
 QString ClassReference::pageName(const QString& typeName)
 {
@@ -21,5 +19,5 @@ QString ClassReference::pageName(const QString& typeName)
 
 QUrl ClassReference::page(const QString& typeName)
 {
-    return QUrl(QLatin1String(Address_prefix) + pageName(typeName) + QStringLiteral(".html"));
+    return OnlineReference::page(QStringLiteral("class") + pageName(typeName));
 }

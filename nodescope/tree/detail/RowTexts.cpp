@@ -1,7 +1,5 @@
 #include "RowTexts.h"
 
-#include <nodescope/tree/SoTreeViewItem.h>
-
 #include <vexel/base/SoType.h>
 
 #include <QHash>
@@ -24,20 +22,6 @@ const QString& RowTexts::typeName(SoType type)
 QString RowTexts::name(const SbName& name)
 {
     return name.toQString();
-}
-
-QColor RowTexts::color(int column, bool isIgnored)
-{
-    switch (column) {
-    case SoTreeViewItem::NameColumn:
-        return QColor(0, 128, 0, 255);
-    case SoTreeViewItem::ReferenceCountColumn:
-        return Qt::blue;
-    case SoTreeViewItem::TypeColumn:
-        return isIgnored ? Qt::darkGray : Qt::black;
-    default:
-        return Qt::black;
-    }
 }
 
 const QIcon& RowTexts::icon(const QPixmap& pixmap)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QColor>
 #include <QString>
 
 class QIcon;
@@ -8,13 +7,12 @@ class QPixmap;
 class SbName;
 class SoType;
 
-/** Texts and colours of rows, in the forms that the tree widget takes. */
+/** Texts and icons of rows, in the forms that the tree widget takes. */
 namespace RowTexts {
 
 /** The name of a type; made once for each type. */
 const QString& typeName(SoType type);
 QString name(const SbName& name);
-QColor color(int column, bool isIgnored);
 /** The picture as an icon that keeps its colours in a selected row; made once for each picture. */
 const QIcon& icon(const QPixmap& pixmap);
 
