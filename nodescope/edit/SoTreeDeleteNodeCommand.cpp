@@ -57,8 +57,10 @@ SoTreeDeleteNodeCommand::~SoTreeDeleteNodeCommand()
 
 void SoTreeDeleteNodeCommand::choosePart(const SoTreeViewItem& item)
 {
-    if (item.text(SoTreeViewItem::NameColumn).contains(QLatin1String("childList["))) {
-        SoNode* list = item.parentRow()->parentNode();
+    m_partName = item.partName();
+    SoNode* list = item.parentRow() ? item.parentRow()->parentNode() : nullptr;
+    const QString name = item.text(SoTreeViewItem::NameColumn);
+    if (name.contains(QLatin1String("childList[")) || (isListPart(list) && name.endsWith(']'))) {
         if (!isListPart(list))
             return;
         m_kind = Kind::ListItem;
@@ -68,7 +70,6 @@ void SoTreeDeleteNodeCommand::choosePart(const SoTreeViewItem& item)
     }
     m_kind = Kind::Part;
     m_container = WeakNode(item.kit());
-    m_partName = item.partName();
 }
 
 void SoTreeDeleteNodeCommand::chooseChild(const SoTreeViewItem& item)
@@ -177,6 +178,10 @@ bool SoTreeDeleteNodeCommand::restore(SoNode& node)
         }
         break;
     case Kind::ListItem:
+        if (!static_cast<SoNodeKitListPart*>(m_container.get())->isChildPermitted(&node)) {
+            EditMessages::showCannotSetPart(m_partName);
+            return false;
+        }
         ChildAccess::insert(*m_container.get(), node, m_index);
         break;
     case Kind::Nothing:

@@ -7,6 +7,7 @@
 #include <vexel/nodes/SoCallback.h>
 #include <vexel/nodes/SoCone.h>
 #include <vexel/nodes/SoCube.h>
+#include <vexel/nodes/SoEventCallback.h>
 #include <vexel/nodes/SoFile.h>
 
 namespace {
@@ -169,6 +170,21 @@ TEST_F(Deleting, ItemsOfAListPartGoAndComeBackInTheirPlaces)
     ASSERT_EQ(list->getNumChildren(), 2);
     EXPECT_EQ(list->getChild(1)->getName(), "third");
     manager.undo();
+    EXPECT_EQ(text(), before);
+}
+
+TEST_F(Deleting, ItemsOfEachListPartComeBackInFrontOfTheOthers)
+{
+    SoSeparator* root = show("Separator { ShapeKit { } }");
+    auto* kit = static_cast<SoShapeKit*>(root->getChild(0));
+    ASSERT_TRUE(kit->setPart("callbackList[0]", new SoCallback));
+    ASSERT_TRUE(kit->setPart("callbackList[1]", new SoEventCallback));
+    const std::string before = text();
+    manager.treeDeleteNode(findRow(top(), "callbackList[0]"));
+    auto* list = static_cast<SoNodeKitListPart*>(kit->getPart("callbackList", true));
+    EXPECT_EQ(list->getNumChildren(), 1);
+    manager.undo();
+    EXPECT_EQ(list->getNumChildren(), 2);
     EXPECT_EQ(text(), before);
 }
 
