@@ -3,6 +3,8 @@
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
+#include <vexel/nodes/SoNode.h>
+
 #include <QApplication>
 #include <QDrag>
 #include <QMimeData>
@@ -82,11 +84,14 @@ void RowDrag::paintIndicator(QPainter& painter) const
     const SoTreeViewItem* const target = rowAt(m_hovered);
     if (!target || target == rowAt(m_pressed))
         return;
+    const bool takesChildren = target->node()->getChildren();
+    if (m_isSpaceHeld && (!takesChildren || !target->parentRow()))
+        return; // nothing will be moved
     QRect place = m_view.visualItemRect(target);
     place.setRight(m_view.viewport()->width() - Indicator_width);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(m_view.palette().color(QPalette::Highlight), Indicator_width));
-    if (m_isSpaceHeld)
+    if (m_isSpaceHeld || !takesChildren)
         painter.drawLine(place.bottomLeft(), place.bottomRight());
     else
         painter.drawRoundedRect(place.adjusted(1, 1, -1, -1), 3, 3);

@@ -31,7 +31,7 @@ public:
     void leave();
     /** Asks for the move, if a row was dropped on another, and forgets what was dragged. */
     void drop(const QPoint& place, const QMimeData& data);
-    /** Marks where the row would be dropped. */
+    /** Marks where the row would be dropped: in a frame, or behind a line. */
     void paintIndicator(QPainter& painter) const;
 
 private:

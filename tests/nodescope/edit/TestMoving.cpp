@@ -2,6 +2,7 @@
 
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QPixmap>
 
 namespace {
 
@@ -24,11 +25,28 @@ protected:
         QDragMoveEvent move(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view->viewport(), &move);
         EXPECT_TRUE(move.isAccepted());
+        indicator = to ? indicatorAt(to) : std::string();
         QDropEvent drop(end, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(view->viewport(), &drop);
         EXPECT_TRUE(drop.isAccepted());
         QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, start);
     }
+    /** What is painted around a row: a "frame", a "line" below it, or nothing. */
+    std::string indicatorAt(const SoTreeViewItem* target) const
+    {
+        const QImage picture = view->viewport()->grab().toImage();
+        const QRgb color = view->palette().color(QPalette::Highlight).rgb();
+        const QRect place = view->visualItemRect(target);
+        const auto isMarked = [&](int y) {
+            const int x = picture.width() / 2;
+            return picture.pixel(x, y) == color || picture.pixel(x, y + 1) == color || picture.pixel(x, y - 1) == color;
+        };
+        if (!isMarked(place.bottom()))
+            return "";
+        return isMarked(place.top() + 1) ? "frame" : "line";
+    }
+
+    std::string indicator; ///< what the last drag showed before the drop
 };
 
 } // namespace
@@ -58,6 +76,22 @@ TEST_F(Moving, OntoALeafGoesBehindIt)
     EXPECT_EQ(rows(), "Separator\n Sphere\n Cone\n Cube\n");
     manager.undo();
     EXPECT_EQ(text(), before);
+}
+
+TEST_F(Moving, IsAnnouncedByAFrameOrALine)
+{
+    show("Separator { Group { } Cube { } Sphere { } }");
+    view->setFocus();
+    dragTo(row({2}), row({1}));
+    EXPECT_EQ(indicator, "line") << "behind the cube";
+    dragTo(row({2}), row({0}));
+    EXPECT_EQ(indicator, "frame") << "into the group";
+    QTest::keyPress(view.get(), Qt::Key_Space);
+    dragTo(row({0, 0}), row({0}));
+    EXPECT_EQ(indicator, "line") << "behind the group";
+    dragTo(row({0}), row({2}));
+    EXPECT_EQ(indicator, "") << "the space bar is for groups";
+    QTest::keyRelease(view.get(), Qt::Key_Space);
 }
 
 TEST_F(Moving, OntoTheParentBecomesItsFirstChild)
