@@ -4,6 +4,7 @@
 #include <QTreeWidget>
 
 #include <bench/Compare.h>
+#include <bench/nodescope/Graphs.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
 
@@ -222,6 +223,29 @@ void InsertInMany(benchmark::State& state, bool isShared)
         [&] { trees.balance(); });
 }
 
+/** The first change of a graph that was just shown, when the rows of each node are looked up for the first time. */
+void FirstChange(benchmark::State& state)
+{
+    SoDB::init();
+    auto* const root = new SoSelection;
+    root->ref();
+    SoSeparator* const scene = makeGraph(int(state.range(0)), Eight_each);
+    root->addChild(scene);
+    SoNodescopeTreeView view;
+    view.setSceneGraph(root);
+    compare(
+        state,
+        [&] {
+            scene->addChild(new SoCube);
+            scene->removeChild(scene->getNumChildren() - 1);
+        },
+        [&] { view.reset(scene); }, [&] { view.reset(scene); });
+    view.setSceneGraph(nullptr);
+    view.reset(nullptr);
+    scene->unref();
+    root->unref();
+}
+
 /** What a host does in a second: sixty turns with a thousand changes of fields and a hundred of children in all. */
 void HostSecond(benchmark::State& state)
 {
@@ -308,6 +332,7 @@ BENCHMARK(AppendThousand)->Arg(1000)->Arg(100000)->ArgName("children")->Apply(on
 BENCHMARK(RemoveThousand)->Arg(1000)->Arg(100000)->ArgName("children")->Apply(once);
 BENCHMARK_CAPTURE(InsertInMany, Places, true)->Arg(1000)->ArgName("groups")->Apply(once);
 BENCHMARK_CAPTURE(InsertInMany, Groups, false)->Arg(1000)->Arg(10000)->ArgName("groups")->Apply(once);
+BENCHMARK(FirstChange)->Arg(1000)->Arg(1000000)->ArgName("rows")->Apply(once);
 BENCHMARK(HostSecond)->Apply(once);
 
 } // namespace
