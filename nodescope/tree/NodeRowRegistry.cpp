@@ -1,5 +1,4 @@
 #include "NodeRowRegistry.h"
-#include "RowList.h"
 #include "SoTreeViewItem.h"
 
 #include <QTreeWidget>
@@ -80,7 +79,7 @@ QList<SoTreeViewItem*> NodeRowRegistry::rows(const SoNode* node)
 {
     enterAll();
     const auto found = m_lists.find(node);
-    return found == m_lists.end() ? QList<SoTreeViewItem*>() : found->second->rows();
+    return found == m_lists.end() ? QList<SoTreeViewItem*>() : found->second.rows();
 }
 
 QList<const RowList*> NodeRowRegistry::sharedNodes()
@@ -88,8 +87,8 @@ QList<const RowList*> NodeRowRegistry::sharedNodes()
     enterAll();
     QList<const RowList*> shared;
     for (const auto& [node, list] : m_lists) {
-        if (list->size() > 1)
-            shared.append(list.get());
+        if (list.size() > 1)
+            shared.append(&list);
     }
     return shared;
 }
@@ -105,10 +104,7 @@ void NodeRowRegistry::enterAll()
 
 void NodeRowRegistry::enterOne(SoTreeViewItem* row)
 {
-    std::unique_ptr<RowList>& list = m_lists[row->node()];
-    if (!list)
-        list = std::make_unique<RowList>(this, row->node());
-    list->append(row);
+    m_lists.try_emplace(row->node(), this, row->node()).first->second.append(row);
 }
 
 void NodeRowRegistry::enter(SoTreeViewItem* row)

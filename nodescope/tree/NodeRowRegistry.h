@@ -1,15 +1,14 @@
 #pragma once
 
 #include <nodescope/NodescopeApi.h>
+#include <nodescope/tree/RowList.h>
 
 #include <QList>
 #include <QString>
 
-#include <memory>
 #include <unordered_map>
 
 class QTreeWidget;
-class RowList;
 class SoNode;
 class SoTreeViewItem;
 
@@ -48,6 +47,6 @@ private:
     void enterOne(SoTreeViewItem* row);
 
     QTreeWidget* m_view;
-    std::unordered_map<const SoNode*, std::unique_ptr<RowList>> m_lists;
+    std::unordered_map<const SoNode*, RowList> m_lists; ///< whose lists stay in place, as rows point to theirs
     bool m_isFilled = false;
 };
