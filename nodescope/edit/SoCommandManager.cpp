@@ -1,5 +1,6 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
+#include "OverviewTabs.h"
 #include "SoNodeOverrideCommand.h"
 #include "SoNodescopeAddDialog.h"
 #include "SoTreeAddNodeCommand.h"
@@ -12,6 +13,8 @@
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoAboutNodescope.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/panels/SoNodescopeEdition.h>
+#include <nodescope/panels/SoTabNodeOverview.h>
 #include <nodescope/tree/NodeSearch.h>
 #include <nodescope/tree/NscFindDialog.h>
 #include <nodescope/tree/SoGraphTopologyManager.h>
@@ -25,7 +28,10 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 
-SoCommandManager::SoCommandManager(QObject* parent) : QObject(parent), m_history(new CommandHistory(this)) {}
+SoCommandManager::SoCommandManager(QObject* parent)
+    : QObject(parent), m_overviewTabs(std::make_unique<OverviewTabs>()), m_history(new CommandHistory(this))
+{
+}
 
 SoCommandManager::~SoCommandManager()
 {
@@ -50,6 +56,7 @@ void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
         m_treeView->topologyManager().disconnect(this);
     }
     m_treeView = treeView;
+    m_overviewTabs->setTreeView(treeView);
     if (m_treeView) {
         connect(m_treeView, &SoNodescopeTreeView::deleteRequested, this, &SoCommandManager::treeDeleteNode);
         connect(m_treeView, &SoNodescopeTreeView::moveRequested, this, &SoCommandManager::treeMoveNode);
@@ -62,6 +69,19 @@ void SoCommandManager::setTreeView(SoNodescopeTreeView* treeView)
 SoNodescopeTreeView* SoCommandManager::treeView() const
 {
     return m_treeView;
+}
+
+void SoCommandManager::setNodeEdition(SoNodescopeEdition* edition)
+{
+    if (SoNodescopeEdition* const former = m_overviewTabs->edition())
+        former->overview().disconnect(this);
+    m_overviewTabs->setEdition(edition);
+    if (!edition)
+        return;
+    const SoTabNodeOverview* const overview = &edition->overview();
+    connect(overview, &SoTabNodeOverview::overrideRequested, this, &SoCommandManager::nodeSetOverride);
+    connect(overview, &SoTabNodeOverview::nodeNameChanged, this, &SoCommandManager::nodeNameChanged);
+    connect(overview, &SoTabNodeOverview::currentPageChanged, this, &SoCommandManager::highlightNodeItem);
 }
 
 SoTreeViewItem* SoCommandManager::currentRow() const
@@ -169,8 +189,8 @@ void SoCommandManager::clearUndoCommand()
 
 void SoCommandManager::nodeSetOverride(bool on)
 {
-    if (currentRow())
-        addCommand(new SoNodeOverrideCommand(currentRow()->node(), on));
+    if (SoNode* const node = m_overviewTabs->shownNode())
+        addCommand(new SoNodeOverrideCommand(node, on));
 }
 
 void SoCommandManager::treeDeleteNode(SoTreeViewItem* item)
@@ -370,4 +390,42 @@ void SoCommandManager::launchAboutNodescopeFrame()
 void SoCommandManager::launchNodescopeHelpViewer()
 {
     QDesktopServices::openUrl(OnlineReference::toolPage());
+}
+
+void SoCommandManager::setNodeOverview(SoTreeViewItem* item, bool addTab)
+{
+    m_overviewTabs->show(item, addTab);
+}
+
+void SoCommandManager::selectedNodeChanged(SoFieldContainer* node)
+{
+    m_overviewTabs->show(node);
+}
+
+void SoCommandManager::highlightNodeItem()
+{
+    m_overviewTabs->highlightRow();
+}
+
+void SoCommandManager::closeNodeOverview(int index)
+{
+    m_overviewTabs->close(index);
+}
+
+void SoCommandManager::nodeNameChanged(SoNode* node)
+{
+    if (getNodeEdition())
+        getNodeEdition()->overview().updateName(node);
+    if (m_treeView)
+        m_treeView->viewport()->update();
+}
+
+SoNodescopeEdition* SoCommandManager::getNodeEdition() const
+{
+    return m_overviewTabs->edition();
+}
+
+QList<SoTreeViewItem*> SoCommandManager::getItemOverviewList() const
+{
+    return m_overviewTabs->rows();
 }

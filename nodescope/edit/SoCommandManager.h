@@ -2,15 +2,21 @@
 
 #include <nodescope/NodescopeApi.h>
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
+
+#include <memory>
 
 class CommandHistory;
 class NscCommand;
 class NscFindDialog;
+class OverviewTabs;
 class QTreeWidgetItem;
+class SoFieldContainer;
 class SoNode;
 class SoNodescopeAddDialog;
+class SoNodescopeEdition;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
 class SoTreeViewItem;
@@ -30,6 +36,9 @@ public:
     void setTreeView(SoNodescopeTreeView* treeView);
 
     SoNodescopeTreeView* treeView() const;
+
+    /** The panels of fields; null for none. Not owned. */
+    void setNodeEdition(SoNodescopeEdition* edition);
 
     /** Whether the scene was changed through a command since the history was last cleared. */
     bool isModified() const;
@@ -62,7 +71,7 @@ public slots:
 
     // Slots on a row take the tree's current one when none is given, and do nothing when there is none.
 
-    /** Sets the override flag of the current row's node. */
+    /** Sets the override flag of the node that the node overview shows. */
     void nodeSetOverride(bool on);
     void treeDeleteNode(SoTreeViewItem* itemToDelete = nullptr);
     /** Moves a node; see SoTreeMoveNodeCommand. */
@@ -112,6 +121,19 @@ public slots:
     void launchAboutNodescopeFrame();
     /** Opens the user's guide in the desktop's browser. */
     void launchNodescopeHelpViewer();
+    /** Shows a row's node in the node overview, on a new page or the current one. */
+    void setNodeOverview(SoTreeViewItem* item = nullptr, bool addTab = true);
+    /** Shows a container on the current page, and lets the tree follow. */
+    void selectedNodeChanged(SoFieldContainer* node);
+    /** Makes the row of the current page of the node overview the tree's current one. */
+    void highlightNodeItem();
+    /** Closes a page of the node overview unless it is the only one; -1: the current one. */
+    void closeNodeOverview(int index = -1);
+    /** A node has another name: whatever shows it follows. */
+    void nodeNameChanged(SoNode* node);
+    SoNodescopeEdition* getNodeEdition() const;
+    /** The rows whose nodes the pages of the node overview show, in their order; null for a row that is gone. */
+    QList<SoTreeViewItem*> getItemOverviewList() const;
 
 private:
     SoTreeViewItem* currentRow() const;
@@ -123,6 +145,7 @@ private:
     QPointer<NscFindDialog> m_findDialog;
     QPointer<SoNodescopeAddDialog> m_addDialog;
     QPointer<SoNodescopeTreeView> m_treeView;
+    std::unique_ptr<OverviewTabs> m_overviewTabs;
     CommandHistory* m_history;
     SoNode* m_clipboardNode = nullptr; ///< a copy, referenced
 };

@@ -6,6 +6,8 @@
 #include "detail/ViewerPages.h"
 
 #include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/panels/SoNodescopeEdition.h>
+#include <nodescope/panels/SoTabNodeOverview.h>
 #include <nodescope/preferences/SoNodescopeStateManager.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
 #include <nodescope/preferences/SoTreeViewState.h>
@@ -54,6 +56,7 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     m_selection->ref();
     m_selection->policy.setValue(SoSelection::SINGLE);
     makePanels();
+    makeEdition();
     m_treeView->setSceneGraph(m_selection);
     applyPreferences();
     connect(m_treeView, &SoNodescopeTreeView::newSceneGraph, &m_services, &NscServicesImpl::announceSceneGraph);
@@ -63,12 +66,15 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     registerTreeState();
     m_frame.setSceneFiles(&m_sceneFiles);
     m_services.getCommandManager()->setTreeView(m_treeView);
+    m_services.getCommandManager()->setNodeEdition(m_edition);
 }
 
 SoNodescopeViewer::~SoNodescopeViewer()
 {
     m_frame.setSceneFiles(nullptr);
     m_treeView->disconnect();
+    m_edition->overview().disconnect();
+    delete m_edition;
     m_selection->deselectAll();
     m_selection->removeAllChildren();
     m_treeView->setSceneGraph(nullptr);
@@ -86,6 +92,18 @@ void SoNodescopeViewer::makePanels()
         m_frame.setCentralWidget(m_treeView);
     }
     m_treeView->setFocus(); // the search box would keep the keys that edit the scene
+}
+
+void SoNodescopeViewer::makeEdition()
+{
+    QDockWidget* const overviewDock = PanelDocks::add(m_frame, PanelDocks::Panel::NodeOverview, nullptr);
+    QDockWidget* const watchDock = PanelDocks::add(m_frame, PanelDocks::Panel::FieldWatch, nullptr);
+    watchDock->setMinimumHeight(0);
+    m_edition = new SoNodescopeEdition(this, overviewDock, watchDock);
+    connect(m_edition, &SoNodescopeEdition::fieldSelected, &m_services, &NscServicesImpl::setSelectedField);
+    connect(&m_services, &NscServices::selectedFieldChanged, m_edition, &SoNodescopeEdition::followField);
+    connect(&m_edition->overview(), &SoTabNodeOverview::containerShown, this, &SoNodescopeViewer::containerShown);
+    connect(m_treeView, &SoNodescopeTreeView::newSceneGraph, m_edition, &SoNodescopeEdition::clear);
 }
 
 void SoNodescopeViewer::makeExaminer()
@@ -111,6 +129,7 @@ void SoNodescopeViewer::applyPreferences()
 {
     const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
     m_treeView->initPreferences();
+    m_edition->overview().setPreferences();
     setHighlighting(store.readHighlightSelectedNode(SoPreferenceStore::TreeViewGroup));
     if (!m_examiner)
         return;
@@ -200,7 +219,15 @@ void SoNodescopeViewer::pick(const SbViewportRegion& region, SbVec2s cursor)
         m_treeView->revealRow(row);
 }
 
-void SoNodescopeViewer::selectNode(SoTreeViewItem* row)
+void SoNodescopeViewer::selectNode(SoTreeViewItem* row, bool inNewTab)
 {
+    if (row && inNewTab)
+        m_edition->overview().addPage();
     m_services.setSelectedNode(row ? row->node() : nullptr);
+}
+
+void SoNodescopeViewer::containerShown(SoFieldContainer* container)
+{
+    if (container != m_services.getSelectedNode())
+        m_services.setSelectedNode(container);
 }

@@ -10,6 +10,8 @@
 #include <vector>
 
 class NscServicesImpl;
+class SoFieldContainer;
+class SoNodescopeEdition;
 class SoNodescopeMainFrame;
 class SoNodescopeTreeView;
 class SbVec2s;
@@ -55,9 +57,11 @@ private:
 
     void makePanels();
     void makeExaminer();
+    void makeEdition();
     void registerTreeState();
     void setHighlighting(bool on);
-    void selectNode(SoTreeViewItem* row);
+    void selectNode(SoTreeViewItem* row, bool inNewTab);
+    void containerShown(SoFieldContainer* container);
 
     SoNodescopeMainFrame& m_frame;
     NscServicesImpl& m_services;
@@ -66,5 +70,6 @@ private:
     SoSelection* m_selection;
     SoNodescopeTreeView* m_treeView;
     std::unique_ptr<ViewerPages> m_pages;
+    SoNodescopeEdition* m_edition = nullptr;
     bool m_highlights = true;
 };

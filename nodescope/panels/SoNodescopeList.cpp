@@ -115,6 +115,13 @@ SoFieldItem* SoNodescopeList::firstEnabledRow() const
     return nullptr;
 }
 
+void SoNodescopeList::addRows(const QList<QTreeWidgetItem*>& rows)
+{
+    addTopLevelItems(rows);
+    for (QTreeWidgetItem* const added : rows)
+        applyFilters(static_cast<SoFieldItem&>(*added));
+}
+
 void SoNodescopeList::removeRow(SoFieldItem* row)
 {
     if (row == currentItem())
@@ -196,11 +203,17 @@ void SoNodescopeList::showEvent(QShowEvent* event)
 void SoNodescopeList::setColumnWidth(int column, int width)
 {
     const int before = columnWidth(column);
-    if (column == columnCount() - 1)
-        header()->setStretchLastSection(false); // which would give it another width at once
-    header()->resizeSection(column, width);
+    takeColumnWidth(column, width);
     if (columnWidth(column) != before)
         emit columnWidthChanged(column, columnWidth(column));
+}
+
+void SoNodescopeList::takeColumnWidth(int column, int width)
+{
+    if (column == columnCount() - 1)
+        header()->setStretchLastSection(false); // which would give it another width at once
+    header()->setSectionResizeMode(column, QHeaderView::Interactive);
+    header()->resizeSection(column, width);
 }
 
 void SoNodescopeList::restoreColumnWidths(const QString& group)
@@ -208,10 +221,8 @@ void SoNodescopeList::restoreColumnWidths(const QString& group)
     const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
     for (int i = 0; i + 1 < columnCount(); ++i) {
         const int width = store.readColumnWidth(group, i);
-        if (width < 0)
-            continue;
-        header()->setSectionResizeMode(i + 1, QHeaderView::Interactive);
-        header()->resizeSection(i + 1, width);
+        if (width >= 0)
+            takeColumnWidth(i + 1, width);
     }
 }
 
@@ -227,7 +238,6 @@ void SoNodescopeList::toggleHeaderColumnVisibility(QAction* toggledAction)
         setColumnWidth(column, 0);
         return;
     }
-    header()->setSectionResizeMode(column, QHeaderView::Interactive);
     const QString title = headerItem()->text(column);
     const int titleWidth = header()->fontMetrics().horizontalAdvance(title) + Room_beside_header_text;
     setColumnWidth(column, column == SoFieldItem::IgnoredColumn ? List_columns[column].width : titleWidth);

@@ -30,6 +30,8 @@ public:
     SoFieldItem* findRow(const SoField* field) const;
     /** The first row that can be chosen; null for none. */
     SoFieldItem* firstEnabledRow() const;
+    /** Puts rows, which are to be SoFieldItem, behind the others. */
+    void addRows(const QList<QTreeWidgetItem*>& rows);
     void removeRow(SoFieldItem* row);
     /** Removes all rows of a container, which may be half destroyed: none of its fields is looked at. */
     void removeRowsOf(const SoFieldContainer& container);
@@ -51,6 +53,8 @@ public:
 
     /** Changes a width, in pixels; 0 hides the column. */
     void setColumnWidth(int column, int width);
+    /** The same without telling anybody. */
+    void takeColumnWidth(int column, int width);
     /** Gives the columns the widths that the store holds for a page; the width with number i is that of column i + 1.
      * Columns without a stored width keep theirs. */
     void restoreColumnWidths(const QString& group);

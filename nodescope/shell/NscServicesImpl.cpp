@@ -1,4 +1,5 @@
 #include "NscServicesImpl.h"
+#include "detail/EndWatch.h"
 
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SoNodescopeViewer.h>
@@ -15,6 +16,16 @@ void scheduleRedraw(void*, SoSelection*)
         instance->getSceneManager()->scheduleRedraw();
 }
 
+void deselectField(void* services, SoSensor*)
+{
+    static_cast<NscServicesImpl*>(services)->setSelectedField(nullptr);
+}
+
+void deselectNode(void* services, SoSensor*)
+{
+    static_cast<NscServicesImpl*>(services)->setSelectedNode(nullptr);
+}
+
 } // namespace
 
 NscServicesImpl* NscServicesImpl::getInstance()
@@ -29,10 +40,17 @@ void NscServicesImpl::deleteInstance()
     delete instance;
 }
 
-NscServicesImpl::NscServicesImpl() : m_commandManager(std::make_unique<SoCommandManager>()) {}
+NscServicesImpl::NscServicesImpl()
+    : m_commandManager(std::make_unique<SoCommandManager>()),
+      m_fieldWatch(std::make_unique<FieldEndWatch>(deselectField, this)),
+      m_nodeWatch(std::make_unique<ObjectEndWatch>(deselectNode, this))
+{
+    connect(this, &NscServices::selectedNodeChanged, m_commandManager.get(), &SoCommandManager::selectedNodeChanged);
+}
 
 NscServicesImpl::~NscServicesImpl()
 {
+    m_commandManager.reset(); // with the nodes that its history holds; one of them may be selected
     setSelection(nullptr);
     instance = nullptr;
 }
@@ -80,12 +98,14 @@ void NscServicesImpl::setSceneGraph(SoNode* root)
 
 void NscServicesImpl::setSelectedField(SoField* field)
 {
+    m_fieldWatch->attach(field);
     m_selectedField = field;
     emit selectedFieldChanged(field);
 }
 
 void NscServicesImpl::setSelectedNode(SoFieldContainer* node)
 {
+    m_nodeWatch->attach(node);
     m_selectedNode = node;
     emit selectedNodeChanged(node);
 }

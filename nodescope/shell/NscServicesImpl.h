@@ -5,6 +5,8 @@
 
 #include <memory>
 
+class FieldEndWatch;
+class ObjectEndWatch;
 class SoCommandManager;
 
 /** Holds the state of the inspection, and the undo history through which it changes. */
@@ -48,6 +50,9 @@ private:
     NscServicesImpl();
 
     std::unique_ptr<SoCommandManager> m_commandManager;
+    // What is selected belongs to the host, which may destroy it at any time.
+    std::unique_ptr<FieldEndWatch> m_fieldWatch;
+    std::unique_ptr<ObjectEndWatch> m_nodeWatch;
     SoField* m_selectedField = nullptr;
     SoFieldContainer* m_selectedNode = nullptr;
     SoNode* m_sceneGraph = nullptr;

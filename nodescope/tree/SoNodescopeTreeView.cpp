@@ -198,6 +198,16 @@ void SoNodescopeTreeView::reselectRow(SoTreeViewItem* row)
         selectChange(row, row); // which making it current again does not tell
 }
 
+void SoNodescopeTreeView::showRow(SoTreeViewItem* row)
+{
+    const bool notifies = m_notifiesSelection;
+    m_notifiesSelection = false;
+    revealRow(row);
+    m_notifiesSelection = notifies;
+    if (mayHighlight(*row))
+        highlightRow(row);
+}
+
 void SoNodescopeTreeView::makeCurrentSilently(SoTreeViewItem* row)
 {
     const bool notifies = m_notifiesSelection;

@@ -62,6 +62,8 @@ public:
     bool showsIgnoredRows() const { return m_showsIgnoredRows; }
 
     SoTreeViewItem* currentRow() const;
+    using QTreeWidget::indexFromItem;
+    using QTreeWidget::itemFromIndex;
     /**
      * The row that a path leads to, from its node @p firstNode on, which is that of a top-level row; the last row on
      * the way when the path goes on where no rows are. Null when it begins elsewhere.
@@ -81,6 +83,8 @@ public:
     void revealRow(SoTreeViewItem* row);
     /** Makes a row current and visible after the current one went, unless it is hidden as a reference. */
     void reselectRow(SoTreeViewItem* row);
+    /** Makes a row current and visible and marks it in the 3D view, to follow another panel; nobody is told. */
+    void showRow(SoTreeViewItem* row);
     /** Makes a row current for the time of a change; nobody is told. */
     void makeCurrentSilently(SoTreeViewItem* row);
     /** Marks the row's node in the 3D view, and nothing else. */

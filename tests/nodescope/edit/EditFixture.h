@@ -3,6 +3,7 @@
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/panels/SoNodescopeEdition.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
 #include <tests/nodescope/tree/TreeFixture.h>
 #include <vexel/actions/SoWriteAction.h>
@@ -10,6 +11,7 @@
 #include <vexel/nodes/SoSeparator.h>
 
 #include <QAction>
+#include <QDockWidget>
 #include <QTest>
 
 #include <cstdlib>
@@ -52,6 +54,10 @@ protected:
         files = std::make_unique<SceneShower>(*selection, manager);
         frame.setSceneFiles(files.get());
         manager.setTreeView(view.get());
+        manager.setNodeEdition(new SoNodescopeEdition(&frame, new QDockWidget(&frame), new QDockWidget(&frame)));
+        QObject::connect(view.get(), &SoNodescopeTreeView::rowSelected, &manager, [this](const SoTreeViewItem* row) {
+            manager.selectedNodeChanged(row ? row->node() : nullptr);
+        });
     }
     void TearDown() override
     {
