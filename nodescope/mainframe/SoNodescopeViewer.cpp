@@ -28,7 +28,8 @@
 
 namespace {
 
-constexpr int Tree_width = 420;
+constexpr int Tree_width = 370;
+constexpr int Overview_width = 480;
 
 SoNodescopeViewer* instance = nullptr;
 
@@ -100,6 +101,7 @@ void SoNodescopeViewer::makeEdition()
     QDockWidget* const watchDock = PanelDocks::add(m_frame, PanelDocks::Panel::FieldWatch, nullptr);
     watchDock->setMinimumHeight(0);
     m_edition = new SoNodescopeEdition(this, overviewDock, watchDock);
+    m_frame.resizeDocks({overviewDock}, {Overview_width}, Qt::Horizontal);
     connect(m_edition, &SoNodescopeEdition::fieldSelected, &m_services, &NscServicesImpl::setSelectedField);
     connect(&m_services, &NscServices::selectedFieldChanged, m_edition, &SoNodescopeEdition::followField);
     connect(&m_edition->overview(), &SoTabNodeOverview::containerShown, this, &SoNodescopeViewer::containerShown);

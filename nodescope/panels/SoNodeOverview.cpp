@@ -109,6 +109,8 @@ QHBoxLayout* SoNodeOverview::makeInfoRow()
     m_nameValue = named(new QLineEdit, "m_nodeNameValue");
     m_idLabel = named(new QLabel, "m_nodeIdLabel");
     m_addressLabel = named(new QLabel, "m_adressLabel");
+    for (QLabel* const label : {m_idLabel, m_addressLabel})
+        label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     auto* const row = named<QHBoxLayout>("m_nodeInfoLayout", 4, 9);
     row->addWidget(m_nameLabel);
     row->addWidget(m_nameValue);
