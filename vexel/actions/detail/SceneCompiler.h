@@ -9,6 +9,7 @@
 #include <vexel/actions/detail/ShapeCache.h>
 #include <vexel/actions/detail/SurroundingsCache.h>
 #include <vexel/actions/detail/TextureCache.h>
+#include <vexel/base/VexelApi.h>
 
 class SoBackground;
 class SoCallback;
@@ -19,7 +20,7 @@ namespace vexel {
  * Walks a graph and puts what it shows into a SceneTree. On further walks, places without changes are left as they
  * are, and others are compared with what is there.
  */
-class SceneCompiler : public SoAction {
+class VEXEL_API SceneCompiler : public SoAction {
     SO_ACTION(SceneCompiler, SoAction)
 public:
     SceneCompiler(SceneTree& tree, const ChangeStamps& stamps);
