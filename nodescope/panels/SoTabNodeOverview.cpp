@@ -49,7 +49,11 @@ SoNodeOverview* SoTabNodeOverview::addPage()
 void SoTabNodeOverview::connectPage(SoNodeOverview& page)
 {
     SoNodeOverviewList& list = page.list();
-    connect(&list, &QTreeWidget::currentItemChanged, this, &SoTabNodeOverview::fieldRowChanged);
+    connect(&list, &QTreeWidget::currentItemChanged, this,
+            [this, &page](QTreeWidgetItem* row, QTreeWidgetItem* previousRow) {
+                if (&page == currentPage()) // others lose rows when their containers go
+                    emit fieldRowChanged(row, previousRow);
+            });
     connect(&list, &SoNodescopeList::columnWidthChanged, this, &SoTabNodeOverview::overviewColumnListChanged);
     connect(&page, &SoNodeOverview::nodeNameChanged, this, &SoTabNodeOverview::nodeNameChanged);
     connect(&page, &SoNodeOverview::overrideRequested, this, &SoTabNodeOverview::overrideRequested);

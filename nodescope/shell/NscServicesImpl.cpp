@@ -6,6 +6,8 @@
 #include <vexel/nodes/SoSelection.h>
 #include <vexel/viewer/SoSceneManager.h>
 
+#include <utility>
+
 namespace {
 
 NscServicesImpl* instance = nullptr;
@@ -100,14 +102,20 @@ void NscServicesImpl::setSelectedField(SoField* field)
 {
     m_fieldWatch->attach(field);
     m_selectedField = field;
-    emit selectedFieldChanged(field);
+    m_fieldIsDue = m_isAnnouncingNode;
+    if (!m_fieldIsDue)
+        emit selectedFieldChanged(field);
 }
 
 void NscServicesImpl::setSelectedNode(SoFieldContainer* node)
 {
     m_nodeWatch->attach(node);
     m_selectedNode = node;
+    const bool isNested = std::exchange(m_isAnnouncingNode, true);
     emit selectedNodeChanged(node);
+    m_isAnnouncingNode = isNested;
+    if (!isNested && std::exchange(m_fieldIsDue, false))
+        emit selectedFieldChanged(m_selectedField);
 }
 
 void NscServicesImpl::undo()

@@ -55,6 +55,9 @@ private:
     std::unique_ptr<ObjectEndWatch> m_nodeWatch;
     SoField* m_selectedField = nullptr;
     SoFieldContainer* m_selectedNode = nullptr;
+    // A field that is selected in answer to a node is announced when everybody knows the node.
+    bool m_isAnnouncingNode = false;
+    bool m_fieldIsDue = false;
     SoNode* m_sceneGraph = nullptr;
     SoSelection* m_selection = nullptr;
     SoGuiRenderArea* m_renderArea = nullptr;

@@ -116,3 +116,18 @@ TEST_F(ServicesTest, CommandsAreExecutedUndoneRedoneAndOwned)
     NscServicesImpl::deleteInstance();
     EXPECT_EQ(alive, 0);
 }
+
+TEST_F(ServicesTest, WhatIsDestroyedIsNotSelectedAnyMore)
+{
+    auto* const material = new SoMaterial;
+    material->ref();
+    services().setSelectedNode(material);
+    services().setSelectedField(&material->diffuseColor);
+    QSignalSpy nodes(&services(), &NscServices::selectedNodeChanged);
+    QSignalSpy fields(&services(), &NscServices::selectedFieldChanged);
+    material->unref();
+    EXPECT_EQ(services().getSelectedNode(), nullptr);
+    EXPECT_EQ(services().getSelectedField(), nullptr);
+    EXPECT_EQ(nodes.count(), 1);
+    EXPECT_EQ(fields.count(), 1);
+}
