@@ -2,8 +2,6 @@
 
 #include <QtGlobal>
 
-#define TEXT(text) QT_TRANSLATE_NOOP("SoNodescopeMainFrame", text)
-
 namespace {
 
 using Id = ActionId;
@@ -24,21 +22,21 @@ std::vector<MenuItem> filterItems()
 const std::vector<MenuRow>& menuTable()
 {
     static const MenuRow Bookmarks{
-        TEXT("Bookmarks"),
+        QT_TRANSLATE_NOOP("Menu", "Bookmarks"),
         {Id::ToggleBookmark, Separator, Id::NextBookmark, Id::PreviousBookmark, Separator, Id::ClearBookmarks}};
-    static const MenuRow Filter{TEXT("Filter"), filterItems()};
+    static const MenuRow Filter{QT_TRANSLATE_NOOP("Menu", "Filter"), filterItems()};
     static const std::vector<MenuRow> Table{
-        {TEXT("File"),
+        {QT_TRANSLATE_NOOP("Menu", "File"),
          {Id::New, Id::Open, Separator, Id::Reload, Separator, Id::Close, Separator, Id::Save, Id::SaveAs, Separator,
           Id::Export, Separator, Id::Print, Recent_files, Separator, Id::Quit}},
-        {TEXT("&Edit"),
+        {QT_TRANSLATE_NOOP("Menu", "&Edit"),
          {Id::Undo, Id::Redo, Separator, Id::Cut, Id::Copy, Id::Paste, Separator, Id::Delete, Separator,
           Id::Preferences}},
-        {TEXT("&View"), {}},
-        {TEXT("&TreeView"),
+        {QT_TRANSLATE_NOOP("Menu", "&View"), {}},
+        {QT_TRANSLATE_NOOP("Menu", "&TreeView"),
          {Id::SetIgnoredEnable, Separator, Id::ShowAllReferences, Id::HideAllReferences, Separator, Id::NextReference,
           Id::Preferences, Separator, Id::Find, Id::FindNext, Bookmarks, Filter}},
-        {TEXT("&?"), {Id::Contents, Separator, Id::About}},
+        {QT_TRANSLATE_NOOP("Menu", "&?"), {Id::Contents, Separator, Id::About}},
     };
     return Table;
 }
@@ -46,14 +44,15 @@ const std::vector<MenuRow>& menuTable()
 const std::vector<MenuRow>& toolBarTable()
 {
     static const std::vector<MenuRow> Table{
-        {TEXT("File Tool Bar"),
+        {QT_TRANSLATE_NOOP("Menu", "File Tool Bar"),
          {Id::New, Id::Open, Separator, Id::Reload, Separator, Id::Close, Separator, Id::Save, Id::SaveAs, Separator,
           Id::Print, Id::Export}},
-        {TEXT("Edit Tool Bar"), {Id::Undo, Id::Redo, Separator, Id::Cut, Id::Copy, Id::Paste, Separator, Id::Delete}},
-        {TEXT("Search Tool Bar"), {Id::Find, Search_box, Id::FindPrevious, Id::FindNext}},
-        {TEXT("Bookmark Tool Bar"),
+        {QT_TRANSLATE_NOOP("Menu", "Edit Tool Bar"),
+         {Id::Undo, Id::Redo, Separator, Id::Cut, Id::Copy, Id::Paste, Separator, Id::Delete}},
+        {QT_TRANSLATE_NOOP("Menu", "Search Tool Bar"), {Id::Find, Search_box, Id::FindPrevious, Id::FindNext}},
+        {QT_TRANSLATE_NOOP("Menu", "Bookmark Tool Bar"),
          {Id::ToggleBookmark, Separator, Id::PreviousBookmark, Id::NextBookmark, Separator, Id::ClearBookmarks}},
-        {TEXT("Filter Tool Bar"), filterItems(), true},
+        {QT_TRANSLATE_NOOP("Menu", "Filter Tool Bar"), filterItems(), true},
     };
     return Table;
 }

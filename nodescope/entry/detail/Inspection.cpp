@@ -3,6 +3,7 @@
 #include "CriticalErrorDialog.h"
 #include "HostingFacts.h"
 #include "QtLibraryPaths.h"
+#include "Translations.h"
 
 #include <extension/NscPluginsManager.h>
 #include <nodescope/edit/SoCommandManager.h>
@@ -63,6 +64,9 @@ void Inspection::prepare(const HostingFacts& facts)
     ownsApplicationObject = !QCoreApplication::instance();
     if (ownsApplicationObject)
         makeApplication(facts);
+    Translations::install();
+    if (services.isStandalone())
+        Translations::installForQt();
     NscShellImpl::getInstance(facts.parent);
 }
 
@@ -114,6 +118,7 @@ void Inspection::cleanup()
         SoQt::finish();
     SoPreferenceStore::deleteInstance();
     NscNodeInfo::clean();
+    Translations::remove();
     SoErrorStack::setHandlerCallback(nullptr);
     for (auto module = std::rbegin(Optional_modules); module != std::rend(Optional_modules); ++module)
         SpnSymTool::finishModule(*module);

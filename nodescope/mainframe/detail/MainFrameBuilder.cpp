@@ -4,6 +4,7 @@
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QMetaMethod>
@@ -21,6 +22,11 @@ QMetaMethod slotOf(const QObject* object, const char* signature)
 QMetaMethod signalOf(const QObject* object, const char* signature)
 {
     return object->metaObject()->method(object->metaObject()->indexOfSignal(signature));
+}
+
+QString menuText(const char* text)
+{
+    return QCoreApplication::translate("Menu", text);
 }
 
 QIcon icon(const char* file)
@@ -44,7 +50,7 @@ void MainFrameBuilder::build()
 void MainFrameBuilder::makeActions()
 {
     for (const ActionRow& row : actionTable()) {
-        auto* action = new QAction(icon(row.icon), SoNodescopeMainFrame::tr(row.text), &m_frame);
+        auto* action = new QAction(icon(row.icon), menuText(row.text), &m_frame);
         if (row.shortcut)
             action->setShortcut(QKeySequence(QLatin1String(row.shortcut)));
         action->setCheckable(row.flags & ActionRow::Checkable);
@@ -83,7 +89,7 @@ void MainFrameBuilder::makeMenus()
     QMenuBar& bar = *m_frame.menuBar();
     const auto& table = menuTable();
     for (std::size_t i = 0; i < table.size(); ++i) {
-        QMenu* menu = bar.addMenu(SoNodescopeMainFrame::tr(table[i].title));
+        QMenu* menu = bar.addMenu(menuText(table[i].title));
         fillMenu(*menu, table[i]);
         if (i == View_menu)
             m_frame.m_viewMenu = menu;
@@ -103,7 +109,7 @@ void MainFrameBuilder::fillMenu(QMenu& menu, const MenuRow& row)
             menu.addSeparator();
             break;
         case MenuItem::Kind::Submenu:
-            fillMenu(*menu.addMenu(SoNodescopeMainFrame::tr(item.submenu->title)), *item.submenu);
+            fillMenu(*menu.addMenu(menuText(item.submenu->title)), *item.submenu);
             break;
         case MenuItem::Kind::RecentFiles:
             menu.addMenu(m_frame.m_recentFiles);
@@ -119,7 +125,7 @@ void MainFrameBuilder::makeToolBars()
     for (const MenuRow& row : toolBarTable()) {
         if (row.startsLine)
             m_frame.addToolBarBreak();
-        QToolBar* bar = m_frame.addToolBar(SoNodescopeMainFrame::tr(row.title));
+        QToolBar* bar = m_frame.addToolBar(menuText(row.title));
         bar->setObjectName(row.title);
         fillToolBar(*bar, row);
     }
