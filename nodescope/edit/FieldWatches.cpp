@@ -2,6 +2,10 @@
 
 #include <nodescope/panels/SoFieldItem.h>
 #include <nodescope/panels/SoFieldWatch.h>
+#include <nodescope/panels/SoNodeOverview.h>
+#include <nodescope/panels/SoNodeOverviewList.h>
+#include <nodescope/panels/SoNodescopeEdition.h>
+#include <nodescope/panels/SoTabNodeOverview.h>
 
 namespace {
 
@@ -12,39 +16,55 @@ QString key(const QTreeWidgetItem* entry)
 
 } // namespace
 
-void FieldWatches::setWatch(SoFieldWatch* watch)
+void FieldWatches::setEdition(SoNodescopeEdition* edition)
 {
-    if (m_watch)
-        m_watch->model()->disconnect(this);
+    if (m_edition)
+        watch().model()->disconnect(this);
     m_treeRows.clear();
-    m_watch = watch;
-    if (!m_watch)
+    m_edition = edition;
+    if (!m_edition)
         return;
     // Entries also go by themselves, with their nodes.
-    const QAbstractItemModel* const model = m_watch->model();
+    const QAbstractItemModel* const model = watch().model();
     connect(model, &QAbstractItemModel::rowsAboutToBeRemoved, this,
             [this](const QModelIndex&, int first, int last) { forget(first, last); });
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, [this] { m_treeRows.clear(); });
 }
 
+SoFieldWatch& FieldWatches::watch() const
+{
+    return m_edition->fieldWatch();
+}
+
 void FieldWatches::forget(int first, int last)
 {
     for (int i = first; i <= last; ++i)
-        m_treeRows.remove(key(m_watch->topLevelItem(i)));
+        m_treeRows.remove(key(watch().topLevelItem(i)));
 }
 
-void FieldWatches::add(const SoFieldItem& row, const QPersistentModelIndex& treeRow)
+void FieldWatches::add(SoFieldItem* row)
 {
-    if (const SoFieldItem* const entry = m_watch ? m_watch->addEntry(row) : nullptr)
-        m_treeRows.insert(key(entry), treeRow);
+    if (!m_edition)
+        return;
+    const SoNodeOverview& page = *m_edition->overview().currentPage();
+    if (!row)
+        row = page.list().currentRow();
+    if (const SoFieldItem* const entry = row ? watch().addEntry(*row) : nullptr)
+        m_treeRows.insert(key(entry), page.treeRow());
+}
+
+void FieldWatches::add(SoFieldItem* row, const QPoint& place)
+{
+    if (m_edition && watch().rect().contains(watch().mapFromGlobal(place)))
+        add(row);
 }
 
 void FieldWatches::remove(QTreeWidgetItem* entry)
 {
-    if (!entry && m_watch)
-        entry = m_watch->currentItem();
+    if (!entry && m_edition)
+        entry = watch().currentItem();
     if (entry)
-        m_watch->removeRow(static_cast<SoFieldItem*>(entry));
+        watch().removeRow(static_cast<SoFieldItem*>(entry));
 }
 
 QPersistentModelIndex FieldWatches::treeRow(const QTreeWidgetItem* entry) const

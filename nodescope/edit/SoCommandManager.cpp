@@ -1,5 +1,6 @@
 #include "SoCommandManager.h"
 #include "CommandHistory.h"
+#include "FieldWatches.h"
 #include "OverviewTabs.h"
 #include "SoNodeOverrideCommand.h"
 #include "SoNodescopeAddDialog.h"
@@ -9,10 +10,13 @@
 #include "detail/PreferencePages.h"
 #include "detail/SceneClipboard.h"
 
+#include <extension/NscServices.h>
 #include <nodescope/mainframe/OnlineReference.h>
 #include <nodescope/mainframe/SceneFileHandler.h>
 #include <nodescope/mainframe/SoAboutNodescope.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
+#include <nodescope/panels/SoFieldItem.h>
+#include <nodescope/panels/SoFieldWatch.h>
 #include <nodescope/panels/SoNodescopeEdition.h>
 #include <nodescope/panels/SoTabNodeOverview.h>
 #include <nodescope/tree/NodeSearch.h>
@@ -29,7 +33,8 @@
 #include <QFileDialog>
 
 SoCommandManager::SoCommandManager(QObject* parent)
-    : QObject(parent), m_overviewTabs(std::make_unique<OverviewTabs>()), m_history(new CommandHistory(this))
+    : QObject(parent), m_overviewTabs(std::make_unique<OverviewTabs>()), m_fieldWatches(new FieldWatches(this)),
+      m_history(new CommandHistory(this))
 {
 }
 
@@ -73,15 +78,26 @@ SoNodescopeTreeView* SoCommandManager::treeView() const
 
 void SoCommandManager::setNodeEdition(SoNodescopeEdition* edition)
 {
-    if (SoNodescopeEdition* const former = m_overviewTabs->edition())
+    if (SoNodescopeEdition* const former = m_overviewTabs->edition()) {
+        former->disconnect(this);
         former->overview().disconnect(this);
+        former->fieldWatch().disconnect(this);
+    }
     m_overviewTabs->setEdition(edition);
+    m_fieldWatches->setEdition(edition);
     if (!edition)
         return;
     const SoTabNodeOverview* const overview = &edition->overview();
     connect(overview, &SoTabNodeOverview::overrideRequested, this, &SoCommandManager::nodeSetOverride);
     connect(overview, &SoTabNodeOverview::nodeNameChanged, this, &SoCommandManager::nodeNameChanged);
     connect(overview, &SoTabNodeOverview::currentPageChanged, this, &SoCommandManager::highlightNodeItem);
+    connect(edition, &SoNodescopeEdition::fieldWatchRequested, this,
+            qOverload<SoFieldItem*>(&SoCommandManager::setFieldWatch));
+    const SoFieldWatch* const watch = &edition->fieldWatch();
+    connect(watch, &SoFieldWatch::rowDropped, this, qOverload<SoFieldItem*, QPoint>(&SoCommandManager::setFieldWatch));
+    connect(watch, &SoFieldWatch::entrySelected, this, &SoCommandManager::setFieldEditorFromWatch);
+    connect(watch, &SoFieldWatch::overviewRequested, this, &SoCommandManager::setNodeOverviewFromWatch);
+    connect(watch, &SoFieldWatch::deleteRequested, this, &SoCommandManager::deleteFieldWatch);
 }
 
 SoTreeViewItem* SoCommandManager::currentRow() const
@@ -414,8 +430,10 @@ void SoCommandManager::closeNodeOverview(int index)
 
 void SoCommandManager::nodeNameChanged(SoNode* node)
 {
-    if (getNodeEdition())
+    if (getNodeEdition()) {
         getNodeEdition()->overview().updateName(node);
+        getNodeEdition()->fieldWatch().nodeNameChanged(node);
+    }
     if (m_treeView)
         m_treeView->viewport()->update();
 }
@@ -428,4 +446,34 @@ SoNodescopeEdition* SoCommandManager::getNodeEdition() const
 QList<SoTreeViewItem*> SoCommandManager::getItemOverviewList() const
 {
     return m_overviewTabs->rows();
+}
+
+void SoCommandManager::setFieldWatch(SoFieldItem* fieldItem)
+{
+    m_fieldWatches->add(fieldItem);
+}
+
+void SoCommandManager::setFieldWatch(SoFieldItem* fieldItem, QPoint place)
+{
+    m_fieldWatches->add(fieldItem, place);
+}
+
+void SoCommandManager::deleteFieldWatch(QTreeWidgetItem* entry)
+{
+    m_fieldWatches->remove(entry);
+}
+
+void SoCommandManager::setFieldEditorFromWatch(QTreeWidgetItem* entry)
+{
+    NscServices::getInstance()->setSelectedNode(&static_cast<SoFieldItem*>(entry)->container());
+    getNodeEdition()->setField(entry);
+}
+
+void SoCommandManager::setNodeOverviewFromWatch(QTreeWidgetItem* entry)
+{
+    const QPersistentModelIndex index = m_fieldWatches->treeRow(entry);
+    if (m_treeView && index.isValid())
+        m_overviewTabs->show(static_cast<SoTreeViewItem*>(m_treeView->itemFromIndex(index)), false);
+    else
+        m_overviewTabs->show(&static_cast<SoFieldItem*>(entry)->container());
 }

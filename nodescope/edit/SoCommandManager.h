@@ -4,16 +4,19 @@
 
 #include <QList>
 #include <QObject>
+#include <QPoint>
 #include <QPointer>
 
 #include <memory>
 
 class CommandHistory;
+class FieldWatches;
 class NscCommand;
 class NscFindDialog;
 class OverviewTabs;
 class QTreeWidgetItem;
 class SoFieldContainer;
+class SoFieldItem;
 class SoNode;
 class SoNodescopeAddDialog;
 class SoNodescopeEdition;
@@ -132,6 +135,18 @@ public slots:
     /** A node has another name: whatever shows it follows. */
     void nodeNameChanged(SoNode* node);
     SoNodescopeEdition* getNodeEdition() const;
+    /** Watches the field of a row, by default that of the current row of the node overview; fields that hold nodes are
+     * not watched. With a place of the screen, only if that lies in the field watch. */
+    ///@{
+    void setFieldWatch(SoFieldItem* fieldItem = nullptr);
+    void setFieldWatch(SoFieldItem* fieldItem, QPoint place);
+    ///@}
+    /** Removes an entry of the field watch, by default the current one. */
+    void deleteFieldWatch(QTreeWidgetItem* entry = nullptr);
+    /** Selects the node and the field of an entry of the field watch. */
+    void setFieldEditorFromWatch(QTreeWidgetItem* entry);
+    /** Shows in the node overview the row from which an entry of the field watch was made. */
+    void setNodeOverviewFromWatch(QTreeWidgetItem* entry);
     /** The rows whose nodes the pages of the node overview show, in their order; null for a row that is gone. */
     QList<SoTreeViewItem*> getItemOverviewList() const;
 
@@ -146,6 +161,7 @@ private:
     QPointer<SoNodescopeAddDialog> m_addDialog;
     QPointer<SoNodescopeTreeView> m_treeView;
     std::unique_ptr<OverviewTabs> m_overviewTabs;
+    FieldWatches* m_fieldWatches;
     CommandHistory* m_history;
     SoNode* m_clipboardNode = nullptr; ///< a copy, referenced
 };

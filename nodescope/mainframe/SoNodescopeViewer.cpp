@@ -3,11 +3,13 @@
 #include "detail/HighlightChoice.h"
 #include "detail/NodeKeeper.h"
 #include "detail/PanelDocks.h"
-#include "detail/ViewerPages.h"
+#include "detail/PanelPages.h"
 
 #include <nodescope/edit/SoCommandManager.h>
+#include <nodescope/panels/SoFieldWatch.h>
 #include <nodescope/panels/SoNodescopeEdition.h>
 #include <nodescope/panels/SoTabNodeOverview.h>
+#include <nodescope/preferences/SoFieldWatchState.h>
 #include <nodescope/preferences/SoNodescopeStateManager.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
 #include <nodescope/preferences/SoTreeViewState.h>
@@ -34,6 +36,7 @@ constexpr int Overview_width = 480;
 SoNodescopeViewer* instance = nullptr;
 
 const QString Tree_state = QStringLiteral("TreeViewState");
+const QString Watch_state = QStringLiteral("FieldWatchState");
 
 } // namespace
 
@@ -51,8 +54,7 @@ void SoNodescopeViewer::deleteInstance()
 
 SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services)
     : m_frame(frame), m_services(services), m_sceneFiles(frame, *this), m_selection(new SoSelection),
-      m_treeView(new SoNodescopeTreeView(&frame)),
-      m_pages(std::make_unique<ViewerPages>([this] { applyPreferences(); }))
+      m_treeView(new SoNodescopeTreeView(&frame)), m_pages(std::make_unique<PanelPages>([this] { applyPreferences(); }))
 {
     m_selection->ref();
     m_selection->policy.setValue(SoSelection::SINGLE);
@@ -65,6 +67,7 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     connect(m_treeView, &SoNodescopeTreeView::statusMessage, m_frame.statusBar(),
             [bar = m_frame.statusBar()](const QString& text) { bar->showMessage(text); });
     registerTreeState();
+    registerWatchState();
     m_frame.setSceneFiles(&m_sceneFiles);
     m_services.getCommandManager()->setTreeView(m_treeView);
     m_services.getCommandManager()->setNodeEdition(m_edition);
@@ -132,6 +135,7 @@ void SoNodescopeViewer::applyPreferences()
     const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
     m_treeView->initPreferences();
     m_edition->overview().setPreferences();
+    m_edition->fieldWatch().setPreferences();
     setHighlighting(store.readHighlightSelectedNode(SoPreferenceStore::TreeViewGroup));
     if (!m_examiner)
         return;
@@ -166,6 +170,15 @@ void SoNodescopeViewer::registerTreeState()
     connect(m_treeView, &SoNodescopeTreeView::focusReceived, this,
             [] { SoNodescopeStateManager::setCurrentState(Tree_state); });
     connect(m_treeView, &SoNodescopeTreeView::contextMenuRequested, state, &SoTreeViewState::contextMenu);
+}
+
+void SoNodescopeViewer::registerWatchState()
+{
+    SoFieldWatch& watch = m_edition->fieldWatch();
+    auto* const state = new SoFieldWatchState(watch, m_frame, *m_services.getCommandManager());
+    SoNodescopeStateManager::registerState(Watch_state, state);
+    connect(&watch, &SoFieldWatch::focusReceived, this, [] { SoNodescopeStateManager::setCurrentState(Watch_state); });
+    connect(&watch, &SoFieldWatch::contextMenuRequested, state, &SoFieldWatchState::contextMenu);
 }
 
 void SoNodescopeViewer::setSceneGraph(SoNode* root, bool resetCommands)

@@ -19,7 +19,7 @@ class SbViewportRegion;
 class SoQtExaminerViewer;
 class SoSelection;
 class SoTreeViewItem;
-class ViewerPages;
+class PanelPages;
 
 /**
  * The displayed scene: the selection node that stands above it, the tree view and the docks that show it, and its
@@ -39,9 +39,9 @@ public:
     /** Root of what is displayed: the scene is its child, with what was pasted beside it. */
     SoSelection* selection() const { return m_selection; }
     SceneFiles& sceneFiles() { return m_sceneFiles; }
-    /** The pages of the 3D view, if it has one, and of the tree. */
+    /** The pages of the 3D view, if there is one, and of the panels. */
     std::vector<PreferenceRecord> preferencePages();
-    /** Reads the preferences of the 3D view and the tree from the store. */
+    /** Reads the preferences of the 3D view and the panels from the store. */
     void applyPreferences();
 
     /** Makes the row current whose node is under a place of the host's picture. Nothing when standalone, or while the
@@ -59,6 +59,7 @@ private:
     void makeExaminer();
     void makeEdition();
     void registerTreeState();
+    void registerWatchState();
     void setHighlighting(bool on);
     void selectNode(SoTreeViewItem* row, bool inNewTab);
     void containerShown(SoFieldContainer* container);
@@ -69,7 +70,7 @@ private:
     std::unique_ptr<SoQtExaminerViewer> m_examiner; ///< null on a host
     SoSelection* m_selection;
     SoNodescopeTreeView* m_treeView;
-    std::unique_ptr<ViewerPages> m_pages;
+    std::unique_ptr<PanelPages> m_pages;
     SoNodescopeEdition* m_edition = nullptr;
     bool m_highlights = true;
 };

@@ -2,7 +2,6 @@
 #include "SoFieldItem.h"
 #include "detail/FieldValueText.h"
 
-#include <nodescope/preferences/SoFieldWatchPreferences.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
 #include <vexel/nodes/SoNode.h>
 
@@ -31,7 +30,7 @@ SoFieldWatch::SoFieldWatch(QWidget* parent, const QString& name) : SoNodescopeLi
     setAcceptDrops(true);
     const QString group = QLatin1String(SoPreferenceStore::FieldWatchGroup);
     restoreColumnWidths(group);
-    setPreferences();
+    initPreferences();
     connect(this, &SoFieldWatch::itemSelectionChanged, this, &SoFieldWatch::fieldSelectionChanged);
     connect(this, &SoFieldWatch::itemDoubleClicked, this, &SoFieldWatch::overviewRequested);
     connect(this, &SoFieldWatch::customContextMenuRequested, this, &SoFieldWatch::showContextMenu);
@@ -39,8 +38,6 @@ SoFieldWatch::SoFieldWatch(QWidget* parent, const QString& name) : SoNodescopeLi
         SoPreferenceStore::getInstance()->writeColumnWidth(group, column - 1, width); // as they are restored
     });
 }
-
-SoFieldWatch::~SoFieldWatch() = default;
 
 SoFieldItem* SoFieldWatch::addEntry(const SoFieldItem& row)
 {
@@ -64,25 +61,16 @@ void SoFieldWatch::nodeNameChanged(const SoNode* node)
         row(i)->setText(SoFieldItem::NodeNameColumn, name);
 }
 
-SoFieldWatchPreferences* SoFieldWatch::preferencesPage()
-{
-    if (!m_preferences) {
-        m_preferences = std::make_unique<SoFieldWatchPreferences>();
-        connect(m_preferences.get(), &SoFieldWatchPreferences::saved, this, &SoFieldWatch::setPreferences);
-    }
-    return m_preferences.get();
-}
-
-void SoFieldWatch::setPreferences()
+void SoFieldWatch::initPreferences()
 {
     const DisplayElementMap elements =
         SoPreferenceStore::getInstance()->loadElements(SoPreferenceStore::FieldWatchGroup);
     setHighlighting(elements["Default Value"], elements["Changed Value"]);
 }
 
-void SoFieldWatch::initPreferences()
+void SoFieldWatch::setPreferences()
 {
-    preferencesPage()->reInit();
+    initPreferences();
 }
 
 void SoFieldWatch::fieldSelectionChanged()

@@ -2,10 +2,7 @@
 
 #include <nodescope/panels/SoNodescopeList.h>
 
-#include <memory>
-
 class QContextMenuEvent;
-class SoFieldWatchPreferences;
 class SoNode;
 
 /**
@@ -16,7 +13,6 @@ class NODESCOPE_API SoFieldWatch : public SoNodescopeList {
     Q_OBJECT
 public:
     explicit SoFieldWatch(QWidget* parent = nullptr, const QString& name = QStringLiteral("SoFieldWatch"));
-    ~SoFieldWatch() override;
 
     /** Watches the field of a row of another list. Null when it is watched already, or holds nodes. */
     SoFieldItem* addEntry(const SoFieldItem& row);
@@ -24,8 +20,6 @@ public:
     void clearEntries();
     /** Gives all entries the name of a node. */
     void nodeNameChanged(const SoNode* node);
-    /** The page of the preferences dialog, made on first use; it stays the panel's. */
-    SoFieldWatchPreferences* preferencesPage();
 
 signals:
     /** All entries were removed. */
@@ -45,9 +39,8 @@ signals:
 
 public slots:
     /** Reads fonts and colours from the preference store. */
-    void setPreferences();
-    /** Loads the preferences page. */
     void initPreferences();
+    void setPreferences();
 
 protected:
     void focusInEvent(QFocusEvent* event) override;
@@ -60,7 +53,4 @@ protected:
 protected slots:
     void fieldSelectionChanged();
     void showContextMenu(const QPoint& place);
-
-private:
-    std::unique_ptr<SoFieldWatchPreferences> m_preferences;
 };

@@ -1,5 +1,6 @@
 #include "SoNodescopeEdition.h"
 #include "SoFieldItem.h"
+#include "SoFieldWatch.h"
 #include "SoNodeOverview.h"
 #include "SoNodeOverviewList.h"
 #include "SoTabNodeOverview.h"
@@ -20,9 +21,11 @@ QDockWidget* dockAround(QWidget* widget)
 } // namespace
 
 SoNodescopeEdition::SoNodescopeEdition(QObject* parent, QDockWidget* overviewDock, QDockWidget* watchDock)
-    : QObject(parent), m_overviewDock(overviewDock), m_watchDock(watchDock), m_overview(new SoTabNodeOverview)
+    : QObject(parent), m_overviewDock(overviewDock), m_watchDock(watchDock), m_overview(new SoTabNodeOverview),
+      m_fieldWatch(new SoFieldWatch(nullptr, QStringLiteral("m_fieldWatch")))
 {
     m_overviewDock->setWidget(m_overview);
+    m_watchDock->setWidget(m_fieldWatch);
     connect(m_overview, &SoTabNodeOverview::fieldRowChanged, this, &SoNodescopeEdition::setField);
     connect(m_overview, &SoTabNodeOverview::watchRequested, this, &SoNodescopeEdition::addFieldWatch);
     connect(m_overview, &SoTabNodeOverview::clearFieldEditorEvent, this, [this] { setField(nullptr); });
@@ -39,6 +42,7 @@ void SoNodescopeEdition::showContainer(SoFieldContainer* container, SoBaseKit* k
 
 void SoNodescopeEdition::clear()
 {
+    m_fieldWatch->clearEntries();
     m_overview->reset();
 }
 

@@ -10,6 +10,7 @@ class SoBaseKit;
 class SoField;
 class SoFieldContainer;
 class SoFieldItem;
+class SoFieldWatch;
 class SoTabNodeOverview;
 
 /** Ties the panels of fields together: the node overview and the field watch, each in a dock. */
@@ -20,7 +21,7 @@ public:
     SoNodescopeEdition(QObject* parent, QDockWidget* overviewDock, QDockWidget* watchDock);
 
     SoTabNodeOverview& overview() const { return *m_overview; }
-    QDockWidget* watchDock() const { return m_watchDock; }
+    SoFieldWatch& fieldWatch() const { return *m_fieldWatch; }
     /** Brings the panels to the screen and shows a container; see SoNodeOverview.
      * @param addTab  on a new page of the overview */
     void showContainer(SoFieldContainer* container, SoBaseKit* kit, bool addTab);
@@ -45,4 +46,5 @@ private:
     QDockWidget* m_overviewDock;
     QDockWidget* m_watchDock;
     SoTabNodeOverview* m_overview;
+    SoFieldWatch* m_fieldWatch;
 };

@@ -48,16 +48,15 @@ void SoFieldWatchState::listClearedSlot()
 void SoFieldWatchState::contextMenu(QContextMenuEvent* event)
 {
     event->accept();
-    QTreeWidgetItem* const entry = m_watch.itemAt(event->pos());
-    if (!entry)
-        return;
     // While the menu is open the entry may go with its node, and the menu with the inspection.
-    const QPersistentModelIndex place = m_watch.indexFromItem(entry);
+    const QPersistentModelIndex entry = m_watch.indexAt(event->pos());
+    if (!entry.isValid())
+        return;
     const QPointer<QMenu> menu = new QMenu(&m_watch);
     const QAction* const shared = m_frame.action(ActionId::Delete);
-    connect(menu->addAction(shared->icon(), shared->text()), &QAction::triggered, this, [this, place] {
-        if (place.isValid())
-            m_commandManager.deleteFieldWatch(m_watch.itemFromIndex(place));
+    connect(menu->addAction(shared->icon(), shared->text()), &QAction::triggered, this, [this, entry] {
+        if (entry.isValid())
+            m_commandManager.deleteFieldWatch(m_watch.topLevelItem(entry.row()));
     });
     menu->exec(event->globalPos());
     delete menu;
