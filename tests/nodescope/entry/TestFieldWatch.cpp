@@ -56,7 +56,7 @@ protected:
         page().list().setCurrentItem(page().list().findRow(&field));
     }
     static QString text(int entry, int column) { return watch().topLevelItem(entry)->text(column); }
-    static QPoint placeOf(int entry) { return watch().visualItemRect(watch().topLevelItem(entry)).center(); }
+    static QPoint placeOf(const QTreeWidgetItem* entry) { return watch().visualItemRect(entry).center(); }
     static QAction& deleteAction() { return *frame().action(ActionId::Delete); }
     static void giveKeyboardTo(QWidget& panel)
     {
@@ -140,7 +140,7 @@ TEST_F(FieldWatchTest, ChoosingAnEntryChoosesItsNodeAndItsField)
     watchField(m_cube, m_cube->height);
     watchField(m_other, m_other->width);
     tree().setCurrentItem(row(m_root));
-    QTest::mouseClick(watch().viewport(), Qt::LeftButton, {}, placeOf(0));
+    QTest::mouseClick(watch().viewport(), Qt::LeftButton, {}, placeOf(watch().findRow(&m_cube->height)));
     const NscServicesImpl& services = *NscServicesImpl::getInstance();
     EXPECT_EQ(services.getSelectedField(), &m_cube->height);
     EXPECT_EQ(services.getSelectedNode(), m_cube);
@@ -159,7 +159,7 @@ TEST_F(FieldWatchTest, ADoubleClickShowsTheRowFromWhichTheEntryWasMade)
     manager().setFieldWatch();
     tree().setCurrentItem(row(m_other));
     const int pages = edition().overview().count();
-    QTest::mouseDClick(watch().viewport(), Qt::LeftButton, {}, placeOf(0));
+    QTest::mouseDClick(watch().viewport(), Qt::LeftButton, {}, placeOf(watch().row(0)));
     EXPECT_EQ(page().container(), m_cube);
     EXPECT_EQ(tree().currentRow(), second);
     EXPECT_EQ(edition().overview().count(), pages);
@@ -190,10 +190,10 @@ TEST_F(FieldWatchTest, TheDeleteKeyRemovesTheCurrentEntry)
 
 TEST_F(FieldWatchTest, TheSharedDeleteGoesToThePanelWithTheKeyboard)
 {
-    watchField(m_cube, m_cube->width);
     giveKeyboardTo(watch());
     EXPECT_EQ(SoNodescopeStateManager::currentState(), "FieldWatchState");
     EXPECT_FALSE(deleteAction().isEnabled()) << "no entry is current";
+    watchField(m_cube, m_cube->width);
     watch().setCurrentItem(watch().topLevelItem(0));
     ASSERT_TRUE(deleteAction().isEnabled());
     deleteAction().trigger();
@@ -241,7 +241,7 @@ TEST_F(FieldWatchTest, TheContextMenuRemovesTheEntryUnderThePointer)
     };
     openMenu(QPoint(10, watch().viewport()->height() - 2));
     EXPECT_TRUE(texts.isEmpty()) << "beside the entries";
-    openMenu(placeOf(1));
+    openMenu(placeOf(watch().row(1)));
     EXPECT_EQ(texts.join(", "), "&Delete");
     EXPECT_EQ(watch().topLevelItemCount(), 1);
 }
