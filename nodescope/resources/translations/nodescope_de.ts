@@ -452,6 +452,25 @@ Sie ist, wie sie vorher war.</translation>
         </message>
     </context>
     <context>
+        <name>PanelPages</name>
+        <message>
+            <source>Environment</source>
+            <translation>Umgebung</translation>
+        </message>
+        <message>
+            <source>Tree View</source>
+            <translation>Baum</translation>
+        </message>
+        <message>
+            <source>Node Overview</source>
+            <translation>Knotenübersicht</translation>
+        </message>
+        <message>
+            <source>Field Watch</source>
+            <translation>Beobachtete Felder</translation>
+        </message>
+    </context>
+    <context>
         <name>PreferencePage</name>
         <message>
             <source>Default Value</source>
@@ -749,6 +768,53 @@ Sie ist, wie sie vorher war.</translation>
         </message>
     </context>
     <context>
+        <name>SoNodeOverview</name>
+        <message>
+            <source>Node Overview</source>
+            <translation>Knotenübersicht</translation>
+        </message>
+        <message>
+            <source>Override</source>
+            <translation>Überschreiben</translation>
+        </message>
+        <message>
+            <source>Show Changed</source>
+            <translation>Nur Geändertes</translation>
+        </message>
+        <message>
+            <source>Watch</source>
+            <translation>Beobachten</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node Name &lt;/b&gt;: </source>
+            <translation>&lt;b&gt; Knotenname &lt;/b&gt;: </translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node Id &lt;/b&gt;: </source>
+            <translation>&lt;b&gt; Knotennummer &lt;/b&gt;: </translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node Address &lt;/b&gt;: </source>
+            <translation>&lt;b&gt; Adresse &lt;/b&gt;: </translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node NetName &lt;/b&gt;: </source>
+            <translation>&lt;b&gt; Netzname &lt;/b&gt;: </translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Part Name &lt;/b&gt;:</source>
+            <translation>&lt;b&gt; Teilname &lt;/b&gt;:</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node Name &lt;/b&gt;:</source>
+            <translation>&lt;b&gt; Knotenname &lt;/b&gt;:</translation>
+        </message>
+        <message>
+            <source>&lt;b&gt; Node Address &lt;/b&gt;: %1</source>
+            <translation>&lt;b&gt; Adresse &lt;/b&gt;: %1</translation>
+        </message>
+    </context>
+    <context>
         <name>SoNodescopeAddDialog</name>
         <message>
             <source>Appearance</source>
@@ -1039,17 +1105,6 @@ Sie ist, wie sie vorher war.</translation>
         <message>
             <source>Perspective or parallel (P)</source>
             <translation>Perspektive oder Parallelprojektion (P)</translation>
-        </message>
-    </context>
-    <context>
-        <name>ViewerPages</name>
-        <message>
-            <source>Environment</source>
-            <translation>Umgebung</translation>
-        </message>
-        <message>
-            <source>Tree View</source>
-            <translation>Baum</translation>
         </message>
     </context>
 </TS>

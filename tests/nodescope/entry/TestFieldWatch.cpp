@@ -159,6 +159,7 @@ TEST_F(FieldWatchTest, ADoubleClickShowsTheRowFromWhichTheEntryWasMade)
     manager().setFieldWatch();
     tree().setCurrentItem(row(m_other));
     const int pages = edition().overview().count();
+    QTest::mouseClick(watch().viewport(), Qt::LeftButton, {}, placeOf(watch().row(0)));
     QTest::mouseDClick(watch().viewport(), Qt::LeftButton, {}, placeOf(watch().row(0)));
     EXPECT_EQ(page().container(), m_cube);
     EXPECT_EQ(tree().currentRow(), second);
