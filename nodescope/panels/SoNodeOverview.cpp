@@ -142,6 +142,7 @@ QHBoxLayout* SoNodeOverview::makeCheckRow()
 
 void SoNodeOverview::languageChange()
 {
+    m_nameValue->setAccessibleName(tr("Name"));
     setWindowTitle(tr("Node Overview"));
     m_overrideBox->setText(tr("Override"));
     m_showChangedBox->setText(tr("Show Changed"));

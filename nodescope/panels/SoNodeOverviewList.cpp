@@ -26,6 +26,7 @@ bool isPart(const SoFieldContainer& container, const SbName& field)
 SoNodeOverviewList::SoNodeOverviewList(QWidget* parent) : SoNodescopeList(parent)
 {
     setObjectName(QStringLiteral("SoNodeOverviewList"));
+    setAccessibleName(tr("Fields"));
     restoreColumnWidths(SoPreferenceStore::NodeOverviewGroup);
     applyPreferences();
 }

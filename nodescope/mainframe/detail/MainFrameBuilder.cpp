@@ -65,6 +65,7 @@ void MainFrameBuilder::makeSearchBox()
     box->setEditable(true);
     box->setMinimumWidth(Search_box_width);
     box->setDuplicatesEnabled(false);
+    box->setAccessibleName(SoNodescopeMainFrame::tr("Search"));
     box->setEnabled(managerHas("find()"));
     if (box->isEnabled())
         QObject::connect(box->lineEdit(), signalOf(box->lineEdit(), "returnPressed()"), m_frame.m_commandManager,

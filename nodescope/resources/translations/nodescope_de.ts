@@ -574,6 +574,10 @@ Sie ist, wie sie vorher war.</translation>
             <source>font and color of this element</source>
             <translation>für dieses Element</translation>
         </message>
+        <message>
+            <source>Element</source>
+            <translation>Element</translation>
+        </message>
     </context>
     <context>
         <name>QFieldWatchPreferences</name>
@@ -787,11 +791,11 @@ Sie ist, wie sie vorher war.</translation>
         </message>
         <message>
             <source>&lt;b&gt; Node Name &lt;/b&gt;: </source>
-            <translation>&lt;b&gt; Knotenname &lt;/b&gt;: </translation>
+            <translation>&lt;b&gt; Name &lt;/b&gt;: </translation>
         </message>
         <message>
             <source>&lt;b&gt; Node Id &lt;/b&gt;: </source>
-            <translation>&lt;b&gt; Knotennummer &lt;/b&gt;: </translation>
+            <translation>&lt;b&gt; Nummer &lt;/b&gt;: </translation>
         </message>
         <message>
             <source>&lt;b&gt; Node Address &lt;/b&gt;: </source>
@@ -807,11 +811,22 @@ Sie ist, wie sie vorher war.</translation>
         </message>
         <message>
             <source>&lt;b&gt; Node Name &lt;/b&gt;:</source>
-            <translation>&lt;b&gt; Knotenname &lt;/b&gt;:</translation>
+            <translation>&lt;b&gt; Name &lt;/b&gt;:</translation>
         </message>
         <message>
             <source>&lt;b&gt; Node Address &lt;/b&gt;: %1</source>
             <translation>&lt;b&gt; Adresse &lt;/b&gt;: %1</translation>
+        </message>
+        <message>
+            <source>Name</source>
+            <translation>Name</translation>
+        </message>
+    </context>
+    <context>
+        <name>SoNodeOverviewList</name>
+        <message>
+            <source>Fields</source>
+            <translation>Felder</translation>
         </message>
     </context>
     <context>
@@ -953,6 +968,10 @@ Sie ist, wie sie vorher war.</translation>
         <message>
             <source>Nodescope</source>
             <translation>Nodescope</translation>
+        </message>
+        <message>
+            <source>Search</source>
+            <translation>Suchen</translation>
         </message>
     </context>
     <context>
