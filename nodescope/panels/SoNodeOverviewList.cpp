@@ -26,7 +26,7 @@ bool isPart(const SoFieldContainer& container, const SbName& field)
 SoNodeOverviewList::SoNodeOverviewList(QWidget* parent) : SoNodescopeList(parent)
 {
     setObjectName(QStringLiteral("SoNodeOverviewList"));
-    setAccessibleName(tr("Fields"));
+    setAccessibleName(SoNodescopeList::tr("Fields"));
     restoreColumnWidths(SoPreferenceStore::NodeOverviewGroup);
     applyPreferences();
 }

@@ -823,13 +823,6 @@ Sie ist, wie sie vorher war.</translation>
         </message>
     </context>
     <context>
-        <name>SoNodeOverviewList</name>
-        <message>
-            <source>Fields</source>
-            <translation>Felder</translation>
-        </message>
-    </context>
-    <context>
         <name>SoNodescopeAddDialog</name>
         <message>
             <source>Appearance</source>
@@ -957,6 +950,10 @@ Sie ist, wie sie vorher war.</translation>
         <message>
             <source>Default: %1</source>
             <translation>Standard: %1</translation>
+        </message>
+        <message>
+            <source>Fields</source>
+            <translation>Felder</translation>
         </message>
     </context>
     <context>
