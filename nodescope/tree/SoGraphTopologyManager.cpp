@@ -87,7 +87,7 @@ void SoGraphTopologyManager::rootChanged(const SoNodeSensor& sensor)
         return;
     }
     if (type == SO_TRIGGER_CHILD_REMOVED || type == SO_TRIGGER_CHILD_REPLACED)
-        delete m_treeView->topLevelItem(index);
+        delete m_treeView->takeTopLevelItem(index); // whole while the view chooses another current row
     if (type != SO_TRIGGER_CHILD_REMOVED)
         m_treeView->createItem(sensor.getTriggerChild(), nullptr, nullptr, index);
 }

@@ -21,6 +21,11 @@ protected:
         selection = static_cast<SoSelection*>(root->getChild(3));
         selection->select(selection->getChild(1));
     }
+    void TearDown() override
+    {
+        selection->deselectAll(); // a path refers to where it begins
+        SceneView::TearDown();
+    }
 
     /** Counts pixels of the marks' green in the left and right half. */
     static int marks(const QImage& picture, bool right)
