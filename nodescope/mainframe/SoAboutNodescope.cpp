@@ -22,8 +22,10 @@ SoAboutNodescope::SoAboutNodescope(QWidget* parent) : QDialog(parent)
     setPalette(whitePalette());
     auto* label = new QLabel;
     label->setTextFormat(Qt::AutoText);
-    label->setText(QStringLiteral("<p align=\"center\"><b><h1><b>Nodescope</h1>&nbsp;%1 %2 64 bits release</p>")
-                       .arg(QLatin1String(NODESCOPE_VERSION), QLatin1String(NODESCOPE_BUILD)));
+    label->setText(
+        QStringLiteral(
+            "<p align=\"center\"><b><h1 style=\"margin: 0\"><b>Nodescope</h1>&nbsp;%1 %2 64 bits release</p>")
+            .arg(QLatin1String(NODESCOPE_VERSION), QLatin1String(NODESCOPE_BUILD)));
     label->setAccessibleName(label->text().remove(QRegularExpression("<[^>]*>|&nbsp;")));
     m_textFrame->layout()->addWidget(label);
 }

@@ -62,6 +62,7 @@ TEST(AboutBox, HasItsPicturesAndItsTextInTheirPlaces)
     EXPECT_EQ(frame->geometry(), QRect(14, 150, 330, 50));
     EXPECT_EQ(frame->frameShadow(), QFrame::Raised);
     auto* text = frame->findChild<QLabel*>();
+    EXPECT_LE(text->sizeHint().height(), frame->height()) << "the build line must be seen";
     EXPECT_EQ(text->textFormat(), Qt::AutoText);
     const QString written = text->text();
     EXPECT_EQ(written.count("<b>"), 2);
