@@ -49,6 +49,7 @@ void ElementEditor::setGroup(const char* group)
         auto* item = new QListWidgetItem(QCoreApplication::translate("PreferencePage", element.name), m_listItems);
         item->setData(Qt::UserRole, QString(element.name));
     }
+    m_listItems->setMinimumWidth(m_listItems->sizeHintForColumn(0) + 2 * m_listItems->frameWidth());
     m_listItems->setCurrentRow(0);
 }
 

@@ -11,6 +11,7 @@ SoNodescopePreferences::SoNodescopePreferences(const std::vector<PreferenceRecor
     delete m_widgetStack->widget(0); // designer puts one in
     for (const PreferenceRecord& record : pages)
         addPage(record);
+    m_preferenceList->setMinimumWidth(m_preferenceList->sizeHintForColumn(0) + 2 * m_preferenceList->frameWidth());
     connect(m_preferenceList, &QListWidget::currentItemChanged, this, &SoNodescopePreferences::raiseWidget);
     m_preferenceList->setCurrentRow(0);
 }

@@ -47,6 +47,11 @@ TEST_F(GermanTest, DialogsAreGerman)
     answers.expectDialog("Einstellungen", [](QDialog& dialog) {
         EXPECT_EQ(dialog.findChild<QPushButton*>("m_applyButton")->text(), "&Anwenden");
         EXPECT_EQ(dialog.findChild<QListWidget*>("m_preferenceList")->item(0)->text(), "Baum");
+        for (const QListWidget* list : dialog.findChildren<QListWidget*>()) {
+            if (list->isVisible()) {
+                EXPECT_LE(list->sizeHintForColumn(0), list->viewport()->width()) << list->objectName().toStdString();
+            }
+        }
         auto* page = dialog.findChild<QWidget*>("QTreeViewPreferences");
         EXPECT_EQ(page->findChild<QLabel*>("m_listItemsLabel")->text(), "&Element:");
         EXPECT_EQ(page->findChild<QListWidget*>("m_listItems")->item(0)->text(), "Knotentyp");
