@@ -76,8 +76,10 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
 SoNodescopeViewer::~SoNodescopeViewer()
 {
     m_frame.setSceneFiles(nullptr);
-    m_treeView->disconnect();
-    m_edition->overview().disconnect();
+    // Blocked, not disconnected: others in Qt still have to hear when the widgets go.
+    for (QWidget* const panel : {static_cast<QWidget*>(m_treeView), static_cast<QWidget*>(&m_edition->overview()),
+                                 static_cast<QWidget*>(&m_edition->fieldWatch())})
+        panel->blockSignals(true);
     delete m_edition;
     m_selection->deselectAll();
     m_selection->removeAllChildren();

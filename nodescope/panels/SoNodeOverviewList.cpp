@@ -27,6 +27,7 @@ SoNodeOverviewList::SoNodeOverviewList(QWidget* parent) : SoNodescopeList(parent
 {
     setObjectName(QStringLiteral("SoNodeOverviewList"));
     setAccessibleName(SoNodescopeList::tr("Fields"));
+    setDragDropMode(DragOnly); // to the field watch
     restoreColumnWidths(SoPreferenceStore::NodeOverviewGroup);
     applyPreferences();
 }
