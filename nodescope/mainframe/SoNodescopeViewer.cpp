@@ -30,7 +30,7 @@
 
 namespace {
 
-constexpr int Tree_width = 370;
+constexpr int Tree_width = 420;
 constexpr int Overview_width = 480;
 
 SoNodescopeViewer* instance = nullptr;

@@ -16,6 +16,7 @@
 namespace {
 
 constexpr int Refresh_delay = 40; // milliseconds
+constexpr int Least_name_width = 80;
 
 /** A widget under the name by which the page is known. */
 template <class Widget>
@@ -107,6 +108,7 @@ QHBoxLayout* SoNodeOverview::makeInfoRow()
 {
     m_nameLabel = named(new QLabel, "m_nodeNameLabel");
     m_nameValue = named(new QLineEdit, "m_nodeNameValue");
+    m_nameValue->setMinimumWidth(Least_name_width);
     m_idLabel = named(new QLabel, "m_nodeIdLabel");
     m_addressLabel = named(new QLabel, "m_adressLabel");
     for (QLabel* const label : {m_idLabel, m_addressLabel})
