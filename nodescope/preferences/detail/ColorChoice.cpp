@@ -4,9 +4,9 @@
 #include <QPainter>
 #include <QPointer>
 
-QColor ColorChoice::ask(const QColor& current, const char* dialogName, QWidget* parent)
+QColor ColorChoice::ask(QColor current, const char* dialogName, QWidget* parent)
 {
-    // The page, and with it the dialog, may go while the dialog is open.
+    // The page, and with it the dialog and the colour that is asked about, may go while the dialog is open.
     const QPointer<QColorDialog> dialog = new QColorDialog(current, parent);
     dialog->setObjectName(QString::fromLatin1(dialogName));
     const bool isChosen = dialog->exec() == QDialog::Accepted;
