@@ -1,5 +1,6 @@
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/panels/SoFieldItem.h>
+#include <nodescope/panels/SoFieldWatch.h>
 #include <nodescope/panels/SoNodeOverview.h>
 #include <nodescope/panels/SoNodeOverviewList.h>
 #include <nodescope/panels/SoNodescopeEdition.h>
@@ -9,10 +10,12 @@
 #include <tests/nodescope/entry/InspectionFixture.h>
 #include <vexel/base/SoPath.h>
 #include <vexel/fields/SoField.h>
+#include <vexel/nodekits/SoShapeKit.h>
 #include <vexel/nodes/SoCube.h>
 #include <vexel/nodes/SoSelection.h>
 
 #include <QDockWidget>
+#include <QLineEdit>
 #include <QSettings>
 
 namespace {
@@ -246,4 +249,36 @@ TEST_F(SelectionTest, TheInspectionMayStopWithTheHostsNodesShown)
     manager().setNodeOverview(row(1));
     _stop();
     m_root->removeAllChildren();
+}
+
+TEST_F(SelectionTest, APartOfAKitIsShownAsSuch)
+{
+    auto* const kit = new SoShapeKit;
+    SoNode* const shape = kit->getPart("shape", true);
+    m_root->addChild(kit);
+    view().setCurrentItem(row(2));
+    view().expandBelow(row(2));
+    SoTreeViewItem* partRow = nullptr;
+    for (QTreeWidgetItemIterator it(&view()); *it; ++it) {
+        if (static_cast<SoTreeViewItem*>(*it)->node() == shape)
+            partRow = static_cast<SoTreeViewItem*>(*it);
+    }
+    ASSERT_TRUE(partRow);
+    view().setCurrentItem(partRow);
+    const auto* name = overview().currentPage()->findChild<QLineEdit*>("m_nodeNameValue");
+    EXPECT_EQ(name->text(), "shape");
+    EXPECT_TRUE(name->isReadOnly());
+    expectAllAt(shape);
+}
+
+TEST_F(SelectionTest, ANodeOnTwoTabsAndInTheWatchGoesFromAllOfThem)
+{
+    view().setCurrentItem(row(1));
+    manager().setNodeOverview(row(1));
+    manager().getNodeEdition()->addFieldWatch();
+    m_root->removeChild(m_cube);
+    EXPECT_EQ(overview().page(0)->container(), nullptr);
+    EXPECT_NE(overview().page(1)->container(), nullptr); // it follows the tree
+    EXPECT_EQ(manager().getNodeEdition()->fieldWatch().topLevelItemCount(), 0);
+    EXPECT_EQ(services().getSelectedNode(), view().currentRow()->node());
 }
