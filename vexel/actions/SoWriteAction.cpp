@@ -9,15 +9,20 @@
 void SoWriteAction::visitNode(SoNode& root)
 {
     m_out->writeHeader();
-    if (m_out->isBinary()) {
-        BinaryWriter(*m_out).write(root, getPathAppliedTo());
-        return;
-    }
+    const SoPath* path = getPathAppliedTo();
     SceneWriter& writer = m_out->sceneWriter();
-    writer.prepare(&root);
-    if (getPathAppliedTo())
-        writer.writePath(getPathAppliedTo());
+    if (path)
+        writer.beginPath(*path);
+    else
+        writer.prepare(&root);
+    if (m_out->isBinary())
+        BinaryWriter(*m_out).write(root, path);
+    else if (path)
+        writer.writePath(path);
     else
         writer.writeContainer(&root);
-    m_out->writeNewLine();
+    if (path)
+        writer.endPath();
+    if (!m_out->isBinary())
+        m_out->writeNewLine();
 }

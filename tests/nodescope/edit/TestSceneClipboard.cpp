@@ -95,7 +95,8 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(SceneClipboardTest, ACopyCanBePastedBesideTheScene)
 {
-    showAndMark("Separator { Group { DEF marked Cube { width 3 } } Sphere { } }", {0, 0});
+    showAndMark("Separator { Sphere { } Material { } Group { Cone { } DEF marked Cube { width 3 } } Sphere { } }",
+                {2, 1});
     const std::string before = text();
     action(ActionId::Copy).trigger();
     EXPECT_EQ(text(), before);
@@ -103,7 +104,8 @@ TEST_F(SceneClipboardTest, ACopyCanBePastedBesideTheScene)
     action(ActionId::Paste).trigger();
     ASSERT_EQ(view->topLevelItemCount(), 2);
     EXPECT_EQ(text(), before);
-    EXPECT_EQ(rowsOf(1), "Separator: Group Sphere");
+    EXPECT_EQ(rowsOf(1), "Separator: Material Group") << "with what belongs to the marked node only";
+    EXPECT_EQ(group(group(selection->getChild(1))->getChild(1))->getNumChildren(), 1);
     EXPECT_NE(selection->getChild(0), selection->getChild(1)) << "a copy";
     EXPECT_FALSE(action(ActionId::Undo).isEnabled());
 }

@@ -2,7 +2,6 @@
 
 #include <random>
 
-#include <vexel/base/SoPath.h>
 #include <vexel/fields/SoMFVec3f.h>
 #include <vexel/fields/SoSFPlane.h>
 #include <vexel/fields/SoSFRotation.h>
@@ -112,26 +111,6 @@ TEST(RoundTrip, ADamagedBinarySceneIsRefusedWithAReason)
         const std::size_t inPreamble = place - good.find('\n') - 1;
         EXPECT_EQ(errors.texts.empty(), inPreamble >= 20 && inPreamble < 32) << place;
     }
-}
-
-TEST(RoundTrip, APathComesBack)
-{
-    const Scene scene(Header + "Separator { Group { } Separator { Group { } Group { } } }");
-    auto* path = new SoPath(scene.root);
-    path->ref();
-    path->append(1);
-    path->append(1);
-    SoOutput out;
-    SoWriteAction(&out).apply(path);
-    SoInput in;
-    in.setBuffer(out.getText().data(), out.getText().size());
-    SoPath* again = nullptr;
-    ASSERT_TRUE(SoDB::read(&in, again));
-    ASSERT_TRUE(again);
-    EXPECT_EQ(again->getLength(), 3);
-    EXPECT_EQ(again->getIndex(1), 1);
-    EXPECT_EQ(again->getIndex(2), 1);
-    path->unref();
 }
 
 } // namespace

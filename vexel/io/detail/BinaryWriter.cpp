@@ -92,7 +92,6 @@ void BinaryWriter::pad()
 
 void BinaryWriter::write(const SoNode& root, const SoPath* path)
 {
-    m_names.prepare(&root);
     if (path)
         writePath(path);
     else
@@ -145,8 +144,6 @@ void BinaryWriter::writeContainer(const SoFieldContainer* container)
         const Chunk chunk(*this, BinaryFormat::Use, place->second);
         return;
     }
-    const SoNode* node =
-        container->isOfType(SoNode::getClassTypeId()) ? static_cast<const SoNode*>(container) : nullptr;
     const auto* unknown =
         container->isOfType(SoUnknownNode::getClassTypeId()) ? static_cast<const SoUnknownNode*>(container) : nullptr;
     const std::string_view typeName =
@@ -164,11 +161,7 @@ void BinaryWriter::writeContainer(const SoFieldContainer* container)
         if (container->shouldWriteField(*field))
             writeField(*container, *field, data.getFieldName(i).getView());
     }
-    if (!node || !node->hasFileChildren())
-        return;
-    const SoChildList& children = *node->getChildren();
-    for (int i = 0; i < children.getLength(); ++i)
-        writeContainer(children[i]);
+    m_names.extract().forEachChild(*container, [this](const SoNode& child) { writeContainer(&child); });
 }
 
 void BinaryWriter::writeField(const SoFieldContainer& container, const SoField& field, std::string_view name)
@@ -214,10 +207,10 @@ void BinaryWriter::writePath(const SoPath* path)
         writeContainer(nullptr);
         return;
     }
-    const int length = SceneWriter::writableLength(*path);
-    const Chunk chunk(*this, BinaryFormat::Path, static_cast<std::uint32_t>(length - 1));
+    const std::vector<int> indices = m_names.extract().indicesOf(*path);
+    const Chunk chunk(*this, BinaryFormat::Path, static_cast<std::uint32_t>(indices.size()));
     writeContainer(path->getHead());
     const Chunk values(*this, BinaryFormat::Values, sizeof(std::uint32_t) + 256u);
-    for (int i = 1; i < length; ++i)
-        putNumber(static_cast<std::uint32_t>(path->getIndex(i)));
+    for (const int index : indices)
+        putNumber(static_cast<std::uint32_t>(index));
 }

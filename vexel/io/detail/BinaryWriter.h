@@ -12,7 +12,7 @@ class BinaryWriter {
 public:
     explicit BinaryWriter(SoOutput& out);
 
-    /** Writes @p path when there is one, otherwise the graph below @p root. */
+    /** Writes @p path when there is one, otherwise the graph below @p root, which the scene writer was prepared for. */
     void write(const SoNode& root, const SoPath* path);
 
 private:

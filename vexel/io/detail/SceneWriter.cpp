@@ -2,36 +2,21 @@
 
 #include <vexel/base/SbString.h>
 #include <vexel/base/SoPath.h>
-#include <vexel/engines/SoEngine.h>
 #include <vexel/engines/SoEngineOutput.h>
 #include <vexel/fields/SoField.h>
 #include <vexel/fields/SoFieldContainer.h>
-#include <vexel/fields/detail/ReferenceField.h>
 #include <vexel/io/SoOutput.h>
 #include <vexel/io/detail/GlobalFields.h>
+#include <vexel/io/detail/HeldObjects.h>
 #include <vexel/io/detail/TextReader.h>
 #include <vexel/nodes/SoUnknownNode.h>
 
 namespace {
 
-const SoNode* asNode(const SoFieldContainer& container)
-{
-    return container.isOfType(SoNode::getClassTypeId()) ? static_cast<const SoNode*>(&container) : nullptr;
-}
-
 const SoUnknownNode* asUnknown(const SoFieldContainer& container)
 {
     return container.isOfType(SoUnknownNode::getClassTypeId()) ? static_cast<const SoUnknownNode*>(&container)
                                                                : nullptr;
-}
-
-// The container that a connection comes from; null for one from a global field, which is written out as such.
-const SoFieldContainer* sourceOf(const SoField& field)
-{
-    if (SoEngineOutput* output = field.getConnectedEngine())
-        return output->getContainer();
-    const SoField* master = field.getConnectedField();
-    return master && !isGlobalField(*master) ? master->getContainer() : nullptr;
 }
 
 // The part of a name that a file can hold: no character that ends a word, and no plus sign, behind which only what
@@ -48,38 +33,26 @@ std::string writableName(const SbName& name)
 
 } // namespace
 
-template <class Visit>
-void SceneWriter::forEachHeld(const SoFieldContainer& container, Visit&& visit) const
-{
-    const SoFieldData& data = container.getFieldData();
-    for (int i = 0; i < data.getNumFields(); ++i) {
-        const SoField* field = data.getField(&container, i);
-        if (!container.shouldWriteField(*field))
-            continue;
-        for (SoBase* base : field->getReferences()) {
-            if (!base)
-                continue;
-            if (base->isOfType(SoFieldContainer::getClassTypeId()))
-                visit(static_cast<const SoFieldContainer*>(base));
-            else if (base->isOfType(SoPath::getClassTypeId()) && static_cast<SoPath*>(base)->getHead())
-                visit(static_cast<const SoFieldContainer*>(static_cast<SoPath*>(base)->getHead()));
-        }
-        if (const SoFieldContainer* source = sourceOf(*field))
-            visit(source);
-    }
-    const SoNode* node = asNode(container);
-    if (!node || !node->hasFileChildren())
-        return;
-    const SoChildList& children = *node->getChildren();
-    for (int i = 0; i < children.getLength(); ++i)
-        visit(static_cast<const SoFieldContainer*>(children[i]));
-}
-
 void SceneWriter::prepare(const SoFieldContainer* root)
 {
     if (!root || ++m_mentions[root].count > 1)
         return;
-    forEachHeld(*root, [this](const SoFieldContainer* held) { prepare(held); });
+    const auto prepareHeld = [this](const SoFieldContainer& held) { prepare(&held); };
+    forEachHeldInFields(*root, prepareHeld, prepareHeld);
+    m_extract.forEachChild(*root, prepareHeld);
+}
+
+void SceneWriter::beginPath(const SoPath& path)
+{
+    m_mentions.clear();
+    m_extract = PathExtract(path);
+    prepare(path.getHead());
+}
+
+void SceneWriter::endPath()
+{
+    m_mentions.clear();
+    m_extract = PathExtract();
 }
 
 const std::string& SceneWriter::nameOf(const SoFieldContainer* container)
@@ -135,14 +108,10 @@ void SceneWriter::writeContainer(const SoFieldContainer* container)
 void SceneWriter::writeBody(const SoFieldContainer& container)
 {
     writeFields(container);
-    const SoNode* node = asNode(container);
-    if (!node || !node->hasFileChildren())
-        return;
-    const SoChildList& children = *node->getChildren();
-    for (int i = 0; i < children.getLength(); ++i) {
+    m_extract.forEachChild(container, [this](const SoNode& child) {
         m_out.writeNewLine();
-        writeContainer(children[i]);
-    }
+        writeContainer(&child);
+    });
 }
 
 void SceneWriter::writeUnknownBody(const SoUnknownNode& node)
@@ -208,14 +177,6 @@ void SceneWriter::writeConnection(const SoField& field)
     m_out.write((master ? master->getName() : field.getConnectedEngine()->getName()).getView());
 }
 
-int SceneWriter::writableLength(const SoPath& path)
-{
-    int length = 1;
-    while (length < path.getFullLength() && path.getIndex(length) >= 0)
-        ++length;
-    return length;
-}
-
 void SceneWriter::writePath(const SoPath* path)
 {
     if (!path || !path->getHead()) {
@@ -227,11 +188,11 @@ void SceneWriter::writePath(const SoPath* path)
     m_out.writeNewLine();
     writeContainer(path->getHead());
     m_out.writeNewLine();
-    const int length = writableLength(*path);
-    m_out.writeNumber(length - 1);
-    for (int i = 1; i < length; ++i) {
+    const std::vector<int> indices = m_extract.indicesOf(*path);
+    m_out.writeNumber(indices.size());
+    for (const int index : indices) {
         m_out.write(' ');
-        m_out.writeNumber(path->getIndex(i));
+        m_out.writeNumber(index);
     }
     m_out.indent(-1);
     m_out.writeNewLine();

@@ -4,10 +4,10 @@
 #include <unordered_map>
 #include <unordered_set>
 
-class SoBase;
+#include <vexel/io/detail/PathExtract.h>
+
 class SoField;
 class SoFieldContainer;
-class SoNode;
 class SoOutput;
 class SoPath;
 class SoUnknownNode;
@@ -21,8 +21,14 @@ public:
     void prepare(const SoFieldContainer* root);
     void writeContainer(const SoFieldContainer* container);
     void writePath(const SoPath* path);
-    /** Number of nodes of a path that indices lead to: nodes held in fields are not reached by them. */
-    static int writableLength(const SoPath& path);
+    /**
+     * Confines what is written to what belongs to @p path, and counts it. It shares nothing with what was written
+     * before, which may hold more or less of the same groups.
+     */
+    void beginPath(const SoPath& path);
+    void endPath();
+    /** What of the graph is written. */
+    const PathExtract& extract() const { return m_extract; }
     /** The fields that differ from their defaults, are ignored or connected. */
     void writeFields(const SoFieldContainer& container);
 
@@ -40,12 +46,11 @@ private:
         std::string name;
     };
 
-    template <class Visit>
-    void forEachHeld(const SoFieldContainer& container, Visit&& visit) const;
     void writeBody(const SoFieldContainer& container);
     void writeConnection(const SoField& field);
 
     SoOutput& m_out;
+    PathExtract m_extract;
     std::unordered_map<const SoFieldContainer*, Mention> m_mentions;
     std::unordered_set<std::string> m_usedNames;
     std::unordered_map<std::string, int> m_suffixes;
