@@ -17,6 +17,11 @@ SbVec3f SoCamera::getViewDirection() const
     return direction;
 }
 
+SoCamera::Distances SoCamera::getViewDistances() const
+{
+    return m_viewDistances.value_or(Distances{nearDistance.getValue(), farDistance.getValue()});
+}
+
 void SoCamera::place(SbViewVolume& volume) const
 {
     volume.rotateCamera(orientation.getValue());
@@ -101,6 +106,7 @@ void SoCamera::viewAll(const SbBox3f& box, const SbViewportRegion& region, float
     const float radius = std::max(box.getSize().length() / 2, 1e-6f);
     const bool adjusts = viewportMapping.getValue() == ADJUST_CAMERA;
     const float aspect = adjusts ? std::max(region.getViewportAspectRatio(), 1.0f) : aspectRatio.getValue();
+    resetViewDistances();
     viewSphere(box.getCenter(), radius, aspect, std::max(slack, 1.0f));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include <vexel/base/SbViewVolume.h>
 #include <vexel/fields/SoEnumEntry.h>
 #include <vexel/fields/SoSFEnum.h>
@@ -46,6 +48,14 @@ public:
     /** Turns the camera to look at a point; up stays as close to the y axis as can be, or to @p up. */
     void pointAt(const SbVec3f& target);
     void pointAt(const SbVec3f& target, const SbVec3f& up);
+    /**
+     * The distances that the view has from now on instead of those of the fields, for viewers that fit them to the
+     * scene as it is at the moment. They are no part of the scene: they are neither written nor copied, and nobody is
+     * notified.
+     */
+    void setViewDistances(float nearest, float farthest) { m_viewDistances = {nearest, farthest}; }
+    /** Goes back to the distances of the fields. */
+    void resetViewDistances() { m_viewDistances.reset(); }
     /** Makes the height of the view larger or smaller. */
     virtual void scaleHeight(float factor) = 0;
 
@@ -78,4 +88,13 @@ protected:
     /** Turns and moves a view volume from the origin to the place of the camera. */
     void place(SbViewVolume& volume) const;
     SbVec3f getViewDirection() const;
+
+    struct Distances {
+        float nearest;
+        float farthest;
+    };
+    Distances getViewDistances() const;
+
+private:
+    std::optional<Distances> m_viewDistances;
 };

@@ -11,8 +11,9 @@ SbViewVolume SoOrthographicCamera::getViewVolume(float aspect) const
 {
     const float ratio = aspect > 0 ? aspect : std::max(aspectRatio.getValue(), 1e-4f);
     const float halfHeight = std::max(height.getValue(), 1e-6f) / 2;
-    const float nearest = nearDistance.getValue();
-    const float farthest = farDistance.getValue() > nearest ? farDistance.getValue() : nearest + 1;
+    const Distances distances = getViewDistances();
+    const float nearest = distances.nearest;
+    const float farthest = distances.farthest > nearest ? distances.farthest : nearest + 1;
     SbViewVolume volume;
     volume.ortho(-halfHeight * ratio, halfHeight * ratio, -halfHeight, halfHeight, nearest, farthest);
     place(volume);

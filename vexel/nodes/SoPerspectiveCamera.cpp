@@ -16,8 +16,9 @@ SbViewVolume SoPerspectiveCamera::getViewVolume(float aspect) const
 {
     // Values that make no view, as a file may hold them, are brought to the nearest ones that do.
     const float angle = std::clamp(heightAngle.getValue(), 1e-4f, Pi - 1e-4f);
-    const float nearest = std::max(nearDistance.getValue(), 1e-6f);
-    const float farthest = std::max(farDistance.getValue(), nearest * 1.0001f);
+    const Distances distances = getViewDistances();
+    const float nearest = std::max(distances.nearest, 1e-6f);
+    const float farthest = std::max(distances.farthest, nearest * 1.0001f);
     SbViewVolume volume;
     volume.perspective(angle, aspect > 0 ? aspect : std::max(aspectRatio.getValue(), 1e-4f), nearest, farthest);
     place(volume);

@@ -20,6 +20,7 @@ ViewerScene::ViewerScene()
 {
     m_root->ref();
     m_ownCamera->ref();
+    m_camera->ref();
     auto* lights = new SoTransformSeparator;
     m_headlight->direction = SbVec3f(0.25f, -0.35f, -1);
     lights->addChild(m_lightRotation);
@@ -31,8 +32,17 @@ ViewerScene::ViewerScene()
 ViewerScene::~ViewerScene()
 {
     setScene(nullptr);
+    m_camera->unref();
     m_ownCamera->unref();
     m_root->unref();
+}
+
+void ViewerScene::useCamera(SoCamera* camera)
+{
+    camera->ref();
+    m_camera->resetViewDistances();
+    m_camera->unref();
+    m_camera = camera;
 }
 
 void ViewerScene::setScene(SoNode* scene)
@@ -47,13 +57,13 @@ void ViewerScene::setScene(SoNode* scene)
     const int own = m_root->findChild(m_ownCamera);
     if (own >= 0)
         m_root->removeChild(own);
-    m_camera = m_ownCamera;
+    useCamera(m_ownCamera);
     if (m_scene) {
         SoSearchAction search;
         search.setType(SoCamera::getClassTypeId());
         search.apply(m_scene);
         if (search.getPath())
-            m_camera = static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1));
+            useCamera(static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1)));
     }
     if (usesOwnCamera())
         m_root->addChild(m_ownCamera);
@@ -92,7 +102,8 @@ void ViewerScene::toggleProjection()
     other->ref();
     m_root->replaceChild(m_ownCamera, other);
     m_ownCamera->unref();
-    m_ownCamera = m_camera = other;
+    m_ownCamera = other;
+    useCamera(other);
 }
 
 void ViewerScene::setHeadlight(bool on)
@@ -105,21 +116,12 @@ bool ViewerScene::hasHeadlight() const
     return m_headlight->on.getValue();
 }
 
-namespace {
-
-// Values that stay are not set again: the picture that is being drawn must not ask for another one.
-template <class Field, class Value>
-void setIfDifferent(Field& field, const Value& value)
-{
-    if (!(field.getValue() == value))
-        field = value;
-}
-
-} // namespace
-
 void ViewerScene::prepareFrame(const SbViewportRegion& region)
 {
-    setIfDifferent(m_lightRotation->rotation, m_camera->orientation.getValue());
+    // A value that stays is not set again: the picture that is being drawn must not ask for another one.
+    const SbRotation& orientation = m_camera->orientation.getValue();
+    if (!(m_lightRotation->rotation.getValue() == orientation))
+        m_lightRotation->rotation = orientation;
     if (!m_scene)
         return;
     SoGetBoundingBoxAction action(region);
@@ -128,13 +130,11 @@ void ViewerScene::prepareFrame(const SbViewportRegion& region)
     if (box.isEmpty())
         return;
     SbVec3f direction;
-    m_camera->orientation.getValue().multVec(SbVec3f(0, 0, -1), direction);
+    orientation.multVec(SbVec3f(0, 0, -1), direction);
     const float middle = direction.dot(box.getCenter() - m_camera->position.getValue());
     const float radius = std::max(box.getSize().length() / 2, 1e-6f) * 1.01f;
     const float farthest = std::max(middle + radius, 1e-5f);
     // Depth is kept well for a ratio of ten thousand between far and near.
     const bool isPerspective = m_camera->isOfType(SoPerspectiveCamera::getClassTypeId());
-    setIfDifferent(m_camera->farDistance, farthest);
-    setIfDifferent(m_camera->nearDistance,
-                   isPerspective ? std::max(middle - radius, farthest * 1e-4f) : middle - radius);
+    m_camera->setViewDistances(isPerspective ? std::max(middle - radius, farthest * 1e-4f) : middle - radius, farthest);
 }

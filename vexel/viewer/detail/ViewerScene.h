@@ -30,14 +30,20 @@ public:
     void setHeadlight(bool on);
     bool hasHeadlight() const;
 
-    /** Sets the near and far distance around the scene, and lets the headlight follow the camera. */
+    /**
+     * Lays the view's near and far distance around the scene, without a change of the camera's fields, which may belong
+     * to the host; lets the headlight follow the camera.
+     */
     void prepareFrame(const SbViewportRegion& region);
 
 private:
+    void useCamera(SoCamera* camera);
+
     SoSeparator* m_root;
     SoRotation* m_lightRotation;
     SoDirectionalLight* m_headlight;
     SoCamera* m_ownCamera;
+    // Held, as the host may take it out of the scene at any time.
     SoCamera* m_camera;
     SoNode* m_scene = nullptr;
 };
