@@ -15,16 +15,24 @@ protected:
     void SetUp() override
     {
         SceneView::SetUp();
-        read("BaseColor { rgb 0 0 1 } Selection { Separator { Translation { translation -0.5 0 0 }"
+        show("Selection { Separator { Translation { translation -0.5 0 0 }"
              " Cube { width 0.5 height 0.5 } } Separator { Translation { translation 0.5 0 0 }"
              " Cube { width 0.5 height 0.5 } } }");
-        selection = static_cast<SoSelection*>(root->getChild(3));
         selection->select(selection->getChild(1));
     }
     void TearDown() override
     {
         selection->deselectAll(); // a path refers to where it begins
         SceneView::TearDown();
+    }
+
+    /** Draws a selection node, blue, in place of what was drawn. */
+    void show(const char* selectionNode)
+    {
+        if (selection)
+            selection->deselectAll();
+        read((std::string("BaseColor { rgb 0 0 1 } ") + selectionNode).c_str());
+        selection = static_cast<SoSelection*>(root->getChild(3));
     }
 
     /** Counts pixels of the marks' green in the left and right half. */
@@ -89,9 +97,8 @@ TEST_F(Highlights, LinesAreAsWideAndAsBrokenAsAsked)
 
 TEST_F(Highlights, AHaloMayBeHidden)
 {
-    read("BaseColor { rgb 0 0 1 } Selection { Translation { translation 0.5 0 0 } Cube { width 0.5 height 0.5 } }"
+    show("Selection { Translation { translation 0.5 0 0 } Cube { width 0.5 height 0.5 } }"
          " Translation { translation 0.5 0 2 } Cube { width 1 height 1 depth 1 }");
-    selection = static_cast<SoSelection*>(root->getChild(3));
     selection->select(selection->getChild(1));
     SoHaloHighlightRenderAction highlight(region);
     highlight.setColor(SbColor(0, 1, 0));
@@ -113,9 +120,8 @@ TEST_F(Highlights, AHaloMayBeHidden)
 
 TEST_F(Highlights, OnlyThePlaceThatThePathLeadsToIsMarked)
 {
-    read("BaseColor { rgb 0 0 1 } Selection { DEF twin Separator { Group { Cube { width 0.5 height 0.5 } } }"
+    show("Selection { DEF twin Separator { Group { Cube { width 0.5 height 0.5 } } }"
          " Translation { translation 0.5 0 0 } USE twin Switch { USE twin } }");
-    selection = static_cast<SoSelection*>(root->getChild(3));
     const auto packets = [this](std::initializer_list<int> way) {
         auto* path = new SoPath(selection);
         path->ref();
