@@ -90,7 +90,9 @@ TEST_P(ViewDistances, OutliveACameraThatIsTakenAway)
 {
     viewer->setSceneGraph(root);
     EXPECT_TRUE(QTest::qWaitFor([this] { return isCubeDrawn(); }));
+    EXPECT_EQ(camera->getRefCount(), 1) << "it is the scene's alone";
     root->removeChild(camera);
+    EXPECT_TRUE(viewer->getCamera()) << "one of the viewer's own";
     viewer->getGLWidget()->grab();
     viewer->setSceneGraph(root);
     EXPECT_TRUE(QTest::qWaitFor([this] { return isCubeDrawn(); }));

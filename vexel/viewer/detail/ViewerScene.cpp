@@ -20,7 +20,7 @@ ViewerScene::ViewerScene()
 {
     m_root->ref();
     m_ownCamera->ref();
-    m_camera->ref();
+    m_cameraWatch.setDeleteCallback(cameraGone, this);
     auto* lights = new SoTransformSeparator;
     m_headlight->direction = SbVec3f(0.25f, -0.35f, -1);
     lights->addChild(m_lightRotation);
@@ -32,17 +32,22 @@ ViewerScene::ViewerScene()
 ViewerScene::~ViewerScene()
 {
     setScene(nullptr);
-    m_camera->unref();
     m_ownCamera->unref();
     m_root->unref();
 }
 
 void ViewerScene::useCamera(SoCamera* camera)
 {
-    camera->ref();
     m_camera->resetViewDistances();
-    m_camera->unref();
     m_camera = camera;
+    m_cameraWatch.attach(usesOwnCamera() ? nullptr : camera);
+}
+
+void ViewerScene::cameraGone(void* scene, SoSensor*)
+{
+    auto& self = *static_cast<ViewerScene*>(scene);
+    self.m_camera = self.m_ownCamera;
+    self.m_root->insertChild(self.m_ownCamera, self.m_root->findChild(self.m_scene));
 }
 
 void ViewerScene::setScene(SoNode* scene)
@@ -101,9 +106,10 @@ void ViewerScene::toggleProjection()
     state.applyTo(*other);
     other->ref();
     m_root->replaceChild(m_ownCamera, other);
-    m_ownCamera->unref();
+    SoCamera* const before = m_ownCamera;
     m_ownCamera = other;
     useCamera(other);
+    before->unref();
 }
 
 void ViewerScene::setHeadlight(bool on)

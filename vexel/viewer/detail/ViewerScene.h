@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vexel/sensors/SoNodeSensor.h>
+
 class SbViewportRegion;
 class SoCamera;
 class SoDirectionalLight;
@@ -37,13 +39,21 @@ public:
     void prepareFrame(const SbViewportRegion& region);
 
 private:
+    /** Is told of the end of the scene's camera; its changes are of no interest. */
+    class CameraWatch : public SoNodeSensor {
+    public:
+        void notify(const SoNotList&) override {}
+    };
+
     void useCamera(SoCamera* camera);
+    static void cameraGone(void* scene, SoSensor* sensor);
 
     SoSeparator* m_root;
     SoRotation* m_lightRotation;
     SoDirectionalLight* m_headlight;
     SoCamera* m_ownCamera;
-    // Held, as the host may take it out of the scene at any time.
+    // The scene's camera belongs to the host, who may destroy it at any time.
     SoCamera* m_camera;
+    CameraWatch m_cameraWatch;
     SoNode* m_scene = nullptr;
 };
