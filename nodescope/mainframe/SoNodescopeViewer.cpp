@@ -32,6 +32,7 @@ namespace {
 
 constexpr int Tree_width = 420;
 constexpr int Overview_width = 480;
+constexpr int Watch_height = 140;
 
 SoNodescopeViewer* instance = nullptr;
 
@@ -107,6 +108,7 @@ void SoNodescopeViewer::makeEdition()
     watchDock->setMinimumHeight(0);
     m_edition = new SoNodescopeEdition(this, overviewDock, watchDock);
     m_frame.resizeDocks({overviewDock}, {Overview_width}, Qt::Horizontal);
+    m_frame.resizeDocks({watchDock}, {Watch_height}, Qt::Vertical);
     connect(m_edition, &SoNodescopeEdition::fieldSelected, &m_services, &NscServicesImpl::setSelectedField);
     connect(&m_services, &NscServices::selectedFieldChanged, m_edition, &SoNodescopeEdition::followField);
     connect(&m_edition->overview(), &SoTabNodeOverview::containerShown, this, &SoNodescopeViewer::containerShown);
