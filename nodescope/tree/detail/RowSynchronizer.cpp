@@ -45,7 +45,7 @@ void RowSynchronizer::childInserted(SoTreeViewItem& row, SoNode& child, int plac
     if (isPending(row))
         return;
     const int missing = childRowSourceCount(*row.node()) - childRowCount(row);
-    if (missing == 1)
+    if (missing == 1 && place >= 0)
         insertRow(row, {&child, nullptr}, place);
     else if (missing != 0)
         synchronize(row);
@@ -56,7 +56,7 @@ void RowSynchronizer::childRemoved(SoTreeViewItem& row, int place)
     if (isPending(row))
         return;
     const int surplus = childRowCount(row) - childRowSourceCount(*row.node());
-    if (surplus == 1)
+    if (surplus == 1 && place >= 0)
         removeRows(row, place, 1);
     else if (surplus != 0)
         synchronize(row);

@@ -169,6 +169,19 @@ TEST_F(Tracking, AFileNodeIsReloadedByANotificationWithoutAField)
     EXPECT_EQ(row({0})->childCount(), file->getChildren()->getLength());
 }
 
+TEST_F(Tracking, AnInlineNodeMayLoseTheChildThatMakesNoRow)
+{
+    SoSeparator* root = show("Separator { WWWInline { } }");
+    SoChildList& children = *root->getChild(0)->getChildren();
+    children.append(new SoCube);
+    children.append(new SoSphere);
+    EXPECT_EQ(rows(), "Separator\n WWWInline\n  Cube\n  Sphere\n");
+    children.remove(0);
+    EXPECT_EQ(rows(), "Separator\n WWWInline\n  Sphere\n");
+    children.insert(new SoCone, 0);
+    EXPECT_EQ(rows(), "Separator\n WWWInline\n  Cube\n  Sphere\n");
+}
+
 TEST_F(Tracking, TheRowAboveBecomesCurrentWhenTheCurrentOneGoes)
 {
     SoSeparator* root = show("Separator { Group { Cube { } Sphere { } } }");
