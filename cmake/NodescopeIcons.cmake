@@ -1,5 +1,7 @@
 # Icons are drawn as SVG; the build renders each to PNG, at one and two pixels per unit, and compiles them into a library.
 
+include(NodescopeResources)
+
 find_program(RSVG_CONVERT rsvg-convert REQUIRED)
 
 # nodescope_add_icons(OUT PREFIX FOLDER [SIZES "20x20:name,name" ...] [BARE name ...]): renders FOLDER/*.svg and puts into OUT the
@@ -45,15 +47,8 @@ function(nodescope_add_icons OUT PREFIX FOLDER)
     endforeach()
   endforeach()
 
-  set(collection "${CMAKE_CURRENT_BINARY_DIR}/icons.qrc")
   file(MAKE_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}/icons")
-  file(CONFIGURE OUTPUT "${collection}" @ONLY
-    CONTENT "<RCC>\n  <qresource prefix=\"@PREFIX@\">\n@entries@  </qresource>\n</RCC>\n")
-  string(MAKE_C_IDENTIFIER "${PREFIX}" resource_name)
-  set(source "${CMAKE_CURRENT_BINARY_DIR}/qrc_icons.cpp")
-  add_custom_command(OUTPUT "${source}" DEPENDS ${pictures} "${collection}"
-    COMMAND Qt5::rcc --name ${resource_name} --output "${source}" "${collection}"
-    COMMENT "Drawing the icons of ${PREFIX}" VERBATIM)
-  set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
+  nodescope_compile_resources(source icons "${PREFIX}" ENTRIES "${entries}" FOLDER "${CMAKE_CURRENT_BINARY_DIR}"
+    DEPENDS ${pictures} COMMENT "Drawing the icons of ${PREFIX}")
   set(${OUT} "${source}" PARENT_SCOPE)
 endfunction()

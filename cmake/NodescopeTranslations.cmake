@@ -1,5 +1,7 @@
 # Translations of the user interface are compiled into a library; what a text is called stands in the .ts files.
 
+include(NodescopeResources)
+
 set(QT_TOOL_FOLDERS /usr/lib/qt5/bin /usr/lib/x86_64-linux-gnu/qt5/bin)
 find_program(QT_LRELEASE NAMES lrelease-qt5 lrelease HINTS ${QT_TOOL_FOLDERS} REQUIRED)
 find_program(QT_LUPDATE NAMES lupdate-qt5 lupdate HINTS ${QT_TOOL_FOLDERS} REQUIRED) # for the test that looks for missing texts
@@ -19,14 +21,7 @@ function(nodescope_add_translations OUT PREFIX FOLDER)
     list(APPEND compiled "${folder}/${name}.qm")
     string(APPEND entries "    <file>${name}.qm</file>\n")
   endforeach()
-  set(collection "${folder}/translations.qrc")
-  file(CONFIGURE OUTPUT "${collection}" @ONLY
-    CONTENT "<RCC>\n  <qresource prefix=\"@PREFIX@\">\n@entries@  </qresource>\n</RCC>\n")
-  string(MAKE_C_IDENTIFIER "${PREFIX}" resource_name)
-  set(source "${CMAKE_CURRENT_BINARY_DIR}/qrc_translations.cpp")
-  add_custom_command(OUTPUT "${source}" DEPENDS ${compiled} "${collection}"
-    COMMAND Qt5::rcc --name ${resource_name} --output "${source}" "${collection}"
-    COMMENT "Compiling the translations of ${PREFIX}" VERBATIM)
-  set_source_files_properties("${source}" PROPERTIES SKIP_AUTOGEN ON)
+  nodescope_compile_resources(source translations "${PREFIX}" ENTRIES "${entries}" FOLDER "${folder}"
+    DEPENDS ${compiled} COMMENT "Compiling the translations of ${PREFIX}")
   set(${OUT} "${source}" PARENT_SCOPE)
 endfunction()
