@@ -1,7 +1,8 @@
 #pragma once
 
 #include <extension/NscCommand.h>
-#include <nodescope/edit/WeakNode.h>
+#include <vexel/nodes/SoNode.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 /** Sets the override flag of a node, or takes it away. */
 class SoNodeOverrideCommand : public NscCommand {
@@ -13,6 +14,6 @@ public:
     void redo() override { execute(); }
 
 private:
-    WeakNode m_node;
+    SoWeakPtr<SoNode> m_node;
     bool m_value;
 };

@@ -36,7 +36,7 @@ bool SoTreeAddNodeCommand::place(SoNode& node)
     if (!m_addsBeside && ChildAccess::accepts(m_item, node)) {
         const GraphLock lock;
         ChildAccess::insert(*m_target.get(), node, ChildAccess::count(*m_target.get()));
-        m_done.push_back({Appended, WeakNode(&node)});
+        m_done.push_back({Appended, SoWeakPtr<SoNode>(&node)});
         return true;
     }
     const SoTreeViewItem* const parent = m_item ? m_item->parentRow() : nullptr;
@@ -50,7 +50,7 @@ bool SoTreeAddNodeCommand::place(SoNode& node)
     m_target = m_parent;
     const GraphLock lock;
     ChildAccess::insert(*m_target.get(), node, index == Appended ? ChildAccess::count(*m_target.get()) : index);
-    m_done.push_back({index, WeakNode(&node)});
+    m_done.push_back({index, SoWeakPtr<SoNode>(&node)});
     return true;
 }
 

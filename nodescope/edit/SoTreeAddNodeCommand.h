@@ -2,7 +2,8 @@
 
 #include <extension/NscCommand.h>
 #include <nodescope/NodescopeApi.h>
-#include <nodescope/edit/WeakNode.h>
+#include <vexel/nodes/SoNode.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 #include <vector>
 
@@ -35,15 +36,15 @@ private:
     static constexpr int Appended = -1;
     struct Addition {
         int index; ///< among the children of the target
-        WeakNode node;
+        SoWeakPtr<SoNode> node;
     };
 
     bool place(SoNode& node);
 
     SoCommandManager& m_manager;
     const SoTreeViewItem* m_item; ///< valid while nodes are added, not later
-    WeakNode m_target;
-    WeakNode m_parent;
+    SoWeakPtr<SoNode> m_target;
+    SoWeakPtr<SoNode> m_parent;
     bool m_addsBeside = false;
     std::vector<Addition> m_done;
     std::vector<Addition> m_undone; ///< the command holds a reference to these nodes

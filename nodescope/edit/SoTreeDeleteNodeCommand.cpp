@@ -35,13 +35,13 @@ SoTreeDeleteNodeCommand::SoTreeDeleteNodeCommand(SoCommandManager& manager, SoTr
     canDelete = false;
     if (!item)
         return;
-    m_node = WeakNode(item->node());
+    m_node = SoWeakPtr<SoNode>(item->node());
     if (item->isPart()) {
         choosePart(*item);
     } else if (item->fromField()) {
         m_kind = Kind::FieldValue;
         m_field = item->sourceField();
-        m_container = WeakNode(item->parentNode());
+        m_container = SoWeakPtr<SoNode>(item->parentNode());
     } else {
         chooseChild(*item);
     }
@@ -64,12 +64,12 @@ void SoTreeDeleteNodeCommand::choosePart(const SoTreeViewItem& item)
         if (!isListPart(list))
             return;
         m_kind = Kind::ListItem;
-        m_container = WeakNode(list);
+        m_container = SoWeakPtr<SoNode>(list);
         m_index = static_cast<SoNodeKitListPart*>(list)->findChild(item.node());
         return;
     }
     m_kind = Kind::Part;
-    m_container = WeakNode(item.kit());
+    m_container = SoWeakPtr<SoNode>(item.kit());
 }
 
 void SoTreeDeleteNodeCommand::chooseChild(const SoTreeViewItem& item)
@@ -81,10 +81,10 @@ void SoTreeDeleteNodeCommand::chooseChild(const SoTreeViewItem& item)
     if (item.parentRow() && !ChildAccess::isRemovable(item))
         return;
     m_kind = Kind::Child;
-    m_container = WeakNode(item.parentNode());
+    m_container = SoWeakPtr<SoNode>(item.parentNode());
     // What was pasted beside the scene is no scene of its own.
     if (!item.parentRow() && item.treeWidget()->topLevelItemCount() > 1)
-        m_container = WeakNode(m_manager.treeView()->selectionRoot());
+        m_container = SoWeakPtr<SoNode>(m_manager.treeView()->selectionRoot());
     m_index = item.position();
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <extension/NscCommand.h>
-#include <nodescope/edit/WeakNode.h>
+#include <vexel/nodes/SoNode.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 #include <vexel/base/SbName.h>
 
@@ -40,8 +41,8 @@ private:
     void dropReference();
 
     SoCommandManager& m_manager;
-    WeakNode m_node;
-    WeakNode m_container; ///< parent, kit, list, or owner of the field; none for the root of the scene
+    SoWeakPtr<SoNode> m_node;
+    SoWeakPtr<SoNode> m_container; ///< parent, kit, list, or owner of the field; none for the root of the scene
     Kind m_kind = Kind::Nothing;
     SoField* m_field = nullptr;
     SbName m_partName;

@@ -15,8 +15,8 @@ SoTreeMoveNodeCommand::SoTreeMoveNodeCommand(SoCommandManager& manager, const So
 {
     if (!itemToMove || !itemInsertAfter || itemToMove == itemInsertAfter || !ChildAccess::isRemovable(*itemToMove))
         return;
-    m_moved = WeakNode(itemToMove->node());
-    m_source = WeakNode(itemToMove->parentNode());
+    m_moved = SoWeakPtr<SoNode>(itemToMove->node());
+    m_source = SoWeakPtr<SoNode>(itemToMove->parentNode());
     m_sourceIndex = ChildAccess::find(*m_source.get(), *m_moved.get(), itemToMove->position());
     if (!chooseDestination(*itemInsertAfter, *itemToMove, spaceBarPressed))
         return;
@@ -37,10 +37,10 @@ bool SoTreeMoveNodeCommand::chooseDestination(const SoTreeViewItem& target, cons
             return false;
         chooseBehind(target);
     } else if (moved.parentRow() == &target) {
-        m_destination = WeakNode(target.node());
+        m_destination = SoWeakPtr<SoNode>(target.node());
         m_destinationIndex = 0;
     } else if (goesInto) {
-        m_destination = WeakNode(target.node());
+        m_destination = SoWeakPtr<SoNode>(target.node());
         m_destinationIndex = ChildAccess::count(*target.node());
     } else if (goesBehind) {
         chooseBehind(target);
@@ -52,14 +52,14 @@ bool SoTreeMoveNodeCommand::chooseDestination(const SoTreeViewItem& target, cons
 
 void SoTreeMoveNodeCommand::chooseBehind(const SoTreeViewItem& target)
 {
-    m_destination = WeakNode(target.parentNode());
+    m_destination = SoWeakPtr<SoNode>(target.parentNode());
     const SoNode* const parent = m_destination.get();
     const int index = ChildAccess::find(*parent, *target.node(), target.position());
     const bool isBehind = parent == m_source.get() ? m_sourceIndex > index : index < ChildAccess::count(*parent);
     m_destinationIndex = isBehind ? index + 1 : index;
 }
 
-void SoTreeMoveNodeCommand::move(const WeakNode& from, int fromIndex, const WeakNode& to, int toIndex)
+void SoTreeMoveNodeCommand::move(const SoWeakPtr<SoNode>& from, int fromIndex, const SoWeakPtr<SoNode>& to, int toIndex)
 {
     SoNode* const node = m_moved.get();
     if (!node || !from.get() || !to.get())

@@ -1,7 +1,8 @@
 #pragma once
 
 #include <extension/NscCommand.h>
-#include <nodescope/edit/WeakNode.h>
+#include <vexel/nodes/SoNode.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 class SoCommandManager;
 class SoTreeViewItem;
@@ -27,12 +28,12 @@ public:
 private:
     bool chooseDestination(const SoTreeViewItem& target, const SoTreeViewItem& moved, bool isBehind);
     void chooseBehind(const SoTreeViewItem& target);
-    void move(const WeakNode& from, int fromIndex, const WeakNode& to, int toIndex);
+    void move(const SoWeakPtr<SoNode>& from, int fromIndex, const SoWeakPtr<SoNode>& to, int toIndex);
 
     SoCommandManager& m_manager;
-    WeakNode m_moved;
-    WeakNode m_source;
-    WeakNode m_destination;
+    SoWeakPtr<SoNode> m_moved;
+    SoWeakPtr<SoNode> m_source;
+    SoWeakPtr<SoNode> m_destination;
     int m_sourceIndex = -1;
     int m_destinationIndex = -1;
     bool m_isMoved = false;

@@ -1,5 +1,4 @@
 #include "NscServicesImpl.h"
-#include "detail/EndWatch.h"
 
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SoNodescopeViewer.h>
@@ -42,11 +41,10 @@ void NscServicesImpl::deleteInstance()
     delete instance;
 }
 
-NscServicesImpl::NscServicesImpl()
-    : m_commandManager(std::make_unique<SoCommandManager>()),
-      m_fieldWatch(std::make_unique<FieldEndWatch>(deselectField, this)),
-      m_nodeWatch(std::make_unique<ObjectEndWatch>(deselectNode, this))
+NscServicesImpl::NscServicesImpl() : m_commandManager(std::make_unique<SoCommandManager>())
 {
+    m_selectedField.setDeleteCallback(deselectField, this);
+    m_selectedNode.setDeleteCallback(deselectNode, this);
     connect(this, &NscServices::selectedNodeChanged, m_commandManager.get(), &SoCommandManager::selectedNodeChanged);
 }
 
@@ -73,7 +71,7 @@ void NscServicesImpl::setSelection(SoSelection* selection)
 void NscServicesImpl::announceSceneGraph(SoNode* root)
 {
     m_sceneGraph = root;
-    if (m_selectedField)
+    if (m_selectedField.get())
         setSelectedField(nullptr); // it belongs to the scene that went
     emit sceneGraphChanged(root);
 }
@@ -100,8 +98,7 @@ void NscServicesImpl::setSceneGraph(SoNode* root)
 
 void NscServicesImpl::setSelectedField(SoField* field)
 {
-    m_fieldWatch->attach(field);
-    m_selectedField = field;
+    m_selectedField.set(field);
     m_fieldIsDue = m_isAnnouncingNode;
     if (!m_fieldIsDue)
         emit selectedFieldChanged(field);
@@ -109,13 +106,12 @@ void NscServicesImpl::setSelectedField(SoField* field)
 
 void NscServicesImpl::setSelectedNode(SoFieldContainer* node)
 {
-    m_nodeWatch->attach(node);
-    m_selectedNode = node;
+    m_selectedNode.set(node);
     const bool isNested = std::exchange(m_isAnnouncingNode, true);
     emit selectedNodeChanged(node);
     m_isAnnouncingNode = isNested;
     if (!isNested && std::exchange(m_fieldIsDue, false))
-        emit selectedFieldChanged(m_selectedField);
+        emit selectedFieldChanged(m_selectedField.get());
 }
 
 void NscServicesImpl::undo()

@@ -2,11 +2,11 @@
 
 #include <extension/NscServices.h>
 #include <nodescope/NodescopeApi.h>
+#include <vexel/fields/SoFieldContainer.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 #include <memory>
 
-class FieldEndWatch;
-class ObjectEndWatch;
 class SoCommandManager;
 
 /** Holds the state of the inspection, and the undo history through which it changes. */
@@ -35,8 +35,8 @@ public:
 
     void pushCommand(NscCommand* command) override;
     SoSelection* getSelection() const override;
-    SoField* getSelectedField() const override { return m_selectedField; }
-    SoFieldContainer* getSelectedNode() const override { return m_selectedNode; }
+    SoField* getSelectedField() const override { return m_selectedField.get(); }
+    SoFieldContainer* getSelectedNode() const override { return m_selectedNode.get(); }
     void redo() override;
     void setSceneGraph(SoNode* root) override;
     void setSelectedField(SoField* field) override;
@@ -51,10 +51,8 @@ private:
 
     std::unique_ptr<SoCommandManager> m_commandManager;
     // What is selected belongs to the host, which may destroy it at any time.
-    std::unique_ptr<FieldEndWatch> m_fieldWatch;
-    std::unique_ptr<ObjectEndWatch> m_nodeWatch;
-    SoField* m_selectedField = nullptr;
-    SoFieldContainer* m_selectedNode = nullptr;
+    SoWeakPtr<SoField> m_selectedField;
+    SoWeakPtr<SoFieldContainer> m_selectedNode;
     // A field that is selected in answer to a node is announced when everybody knows the node.
     bool m_isAnnouncingNode = false;
     bool m_fieldIsDue = false;

@@ -12,6 +12,7 @@
 #include <vexel/fields/SoSFPath.h>
 #include <vexel/fields/detail/FieldClass.h>
 #include <vexel/fields/detail/ReferenceText.h>
+#include <vexel/fields/detail/SpliceValues.h>
 #include <vexel/fields/detail/ValueText.h>
 #include <vexel/nodes/SoNode.h>
 #include <vexel/nodes/detail/SoCopyMap.h>
@@ -168,6 +169,17 @@ void SoMultiReferenceField::insertSpace(int start, int num)
     std::vector<SoBase*> objects(m_objects.begin(), m_objects.begin() + getNum());
     objects.insert(objects.begin() + std::clamp(start, 0, getNum()), static_cast<std::size_t>(std::max(num, 0)),
                    nullptr);
+    setBases(std::move(objects));
+}
+
+void SoMultiReferenceField::replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum)
+{
+    if (&from == this || from.getTypeId() != getTypeId())
+        return;
+    evaluate();
+    from.evaluate();
+    std::vector<SoBase*> objects = m_objects;
+    spliceValues(objects, start, num, static_cast<const SoMultiReferenceField&>(from).m_objects, fromStart, fromNum);
     setBases(std::move(objects));
 }
 

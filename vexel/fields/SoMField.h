@@ -19,6 +19,12 @@ public:
     virtual void deleteValues(int start, int num = -1) = 0;
     /** Makes room for @p num values of zero in front of the value at @p start. */
     virtual void insertSpace(int start, int num) = 0;
+    /**
+     * Puts @p fromNum values of @p from, a field of the same type, starting with the value at @p fromStart, into the
+     * place of @p num values from @p start on; one change. Ranges beyond an end are cut. A field of another type, and
+     * this field itself, are left alone.
+     */
+    virtual void replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum) = 0;
 
     /** Sets one value from its file text; the list grows as needed. False when the text is not a value. */
     bool set1(int index, const SbString& text);

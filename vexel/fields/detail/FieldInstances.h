@@ -4,6 +4,7 @@
 
 #include <vexel/fields/detail/MultiField.h>
 #include <vexel/fields/detail/SingleField.h>
+#include <vexel/fields/detail/SpliceValues.h>
 #include <vexel/fields/detail/ValueText.h>
 
 // The bodies of the field templates; included only where the concrete fields are instantiated.
@@ -132,6 +133,17 @@ void SoMultiField<Value>::insertSpace(int start, int num)
         return;
     const int first = std::clamp(start, 0, getNum());
     m_values.insert(m_values.begin() + first, static_cast<std::size_t>(num), Element());
+    finishEditing();
+}
+
+template <class Value>
+void SoMultiField<Value>::replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum)
+{
+    if (&from == this || from.getTypeId() != getTypeId())
+        return;
+    evaluate();
+    from.evaluate();
+    spliceValues(m_values, start, num, static_cast<const SoMultiField&>(from).m_values, fromStart, fromNum);
     finishEditing();
 }
 

@@ -55,6 +55,7 @@ public:
     void setNum(int num) override;
     void deleteValues(int start, int num = -1) override;
     void insertSpace(int start, int num) override;
+    void replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum) override;
 
     bool isSame(const SoField& other) const override;
     void copyFrom(const SoField& other) override;

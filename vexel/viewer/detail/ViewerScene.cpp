@@ -16,11 +16,11 @@
 
 ViewerScene::ViewerScene()
     : m_root(new SoSeparator), m_lightRotation(new SoRotation), m_headlight(new SoDirectionalLight),
-      m_ownCamera(new SoPerspectiveCamera), m_camera(m_ownCamera)
+      m_ownCamera(new SoPerspectiveCamera)
 {
     m_root->ref();
     m_ownCamera->ref();
-    m_cameraWatch.setDeleteCallback(cameraGone, this);
+    m_sceneCamera.setDeleteCallback(cameraGone, this);
     auto* lights = new SoTransformSeparator;
     m_headlight->direction = SbVec3f(0.25f, -0.35f, -1);
     lights->addChild(m_lightRotation);
@@ -36,17 +36,15 @@ ViewerScene::~ViewerScene()
     m_root->unref();
 }
 
-void ViewerScene::useCamera(SoCamera* camera)
+void ViewerScene::useSceneCamera(SoCamera* sceneCamera)
 {
-    m_camera->resetViewDistances();
-    m_camera = camera;
-    m_cameraWatch.attach(usesOwnCamera() ? nullptr : camera);
+    camera()->resetViewDistances();
+    m_sceneCamera.set(sceneCamera);
 }
 
 void ViewerScene::cameraGone(void* scene, SoSensor*)
 {
     auto& self = *static_cast<ViewerScene*>(scene);
-    self.m_camera = self.m_ownCamera;
     self.m_root->insertChild(self.m_ownCamera, self.m_root->findChild(self.m_scene));
 }
 
@@ -62,13 +60,13 @@ void ViewerScene::setScene(SoNode* scene)
     const int own = m_root->findChild(m_ownCamera);
     if (own >= 0)
         m_root->removeChild(own);
-    useCamera(m_ownCamera);
+    useSceneCamera(nullptr);
     if (m_scene) {
         SoSearchAction search;
         search.setType(SoCamera::getClassTypeId());
         search.apply(m_scene);
         if (search.getPath())
-            useCamera(static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1)));
+            useSceneCamera(static_cast<SoCamera*>(search.getPath()->getNode(search.getPath()->getFullLength() - 1)));
     }
     if (usesOwnCamera())
         m_root->addChild(m_ownCamera);
@@ -108,7 +106,6 @@ void ViewerScene::toggleProjection()
     m_root->replaceChild(m_ownCamera, other);
     SoCamera* const before = m_ownCamera;
     m_ownCamera = other;
-    useCamera(other);
     before->unref();
 }
 
@@ -125,7 +122,8 @@ bool ViewerScene::hasHeadlight() const
 void ViewerScene::prepareFrame(const SbViewportRegion& region)
 {
     // A value that stays is not set again: the picture that is being drawn must not ask for another one.
-    const SbRotation& orientation = m_camera->orientation.getValue();
+    SoCamera& view = *camera();
+    const SbRotation& orientation = view.orientation.getValue();
     if (!(m_lightRotation->rotation.getValue() == orientation))
         m_lightRotation->rotation = orientation;
     if (!m_scene)
@@ -137,10 +135,10 @@ void ViewerScene::prepareFrame(const SbViewportRegion& region)
         return;
     SbVec3f direction;
     orientation.multVec(SbVec3f(0, 0, -1), direction);
-    const float middle = direction.dot(box.getCenter() - m_camera->position.getValue());
+    const float middle = direction.dot(box.getCenter() - view.position.getValue());
     const float radius = std::max(box.getSize().length() / 2, 1e-6f) * 1.01f;
     const float farthest = std::max(middle + radius, 1e-5f);
     // Depth is kept well for a ratio of ten thousand between far and near.
-    const bool isPerspective = m_camera->isOfType(SoPerspectiveCamera::getClassTypeId());
-    m_camera->setViewDistances(isPerspective ? std::max(middle - radius, farthest * 1e-4f) : middle - radius, farthest);
+    const bool isPerspective = view.isOfType(SoPerspectiveCamera::getClassTypeId());
+    view.setViewDistances(isPerspective ? std::max(middle - radius, farthest * 1e-4f) : middle - radius, farthest);
 }

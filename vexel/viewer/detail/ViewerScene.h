@@ -1,9 +1,9 @@
 #pragma once
 
-#include <vexel/sensors/SoNodeSensor.h>
+#include <vexel/nodes/SoCamera.h>
+#include <vexel/sensors/SoWeakPtr.h>
 
 class SbViewportRegion;
-class SoCamera;
 class SoDirectionalLight;
 class SoNode;
 class SoRotation;
@@ -24,8 +24,8 @@ public:
     void addCameraToScene();
     SoNode* scene() const { return m_scene; }
     /** The first camera of the scene, or the viewer's own. */
-    SoCamera* camera() const { return m_camera; }
-    bool usesOwnCamera() const { return m_camera == m_ownCamera; }
+    SoCamera* camera() const { return usesOwnCamera() ? m_ownCamera : m_sceneCamera.get(); }
+    bool usesOwnCamera() const { return !m_sceneCamera.get(); }
     /** Exchanges the viewer's own camera for one of the other kind; a camera of the scene stays. */
     void toggleProjection();
 
@@ -39,13 +39,7 @@ public:
     void prepareFrame(const SbViewportRegion& region);
 
 private:
-    /** Is told of the end of the scene's camera; its changes are of no interest. */
-    class CameraWatch : public SoNodeSensor {
-    public:
-        void notify(const SoNotList&) override {}
-    };
-
-    void useCamera(SoCamera* camera);
+    void useSceneCamera(SoCamera* camera);
     static void cameraGone(void* scene, SoSensor* sensor);
 
     SoSeparator* m_root;
@@ -53,7 +47,6 @@ private:
     SoDirectionalLight* m_headlight;
     SoCamera* m_ownCamera;
     // The scene's camera belongs to the host, who may destroy it at any time.
-    SoCamera* m_camera;
-    CameraWatch m_cameraWatch;
+    SoWeakPtr<SoCamera> m_sceneCamera;
     SoNode* m_scene = nullptr;
 };
