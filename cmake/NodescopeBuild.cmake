@@ -105,6 +105,22 @@ function(nodescope_add_library NAME)
     INCLUDES DESTINATION ${NODESCOPE_HEADER_ROOT})
 endfunction()
 
+# nodescope_add_plugin(NAME [AUTOMOC] FOLDERS ... LINK ... [RESOURCES ...]): a plug-in made of all sources in FOLDERS. The inspector
+# finds it by NAME in the folder nodescope/ beside its own libraries, in the build tree as when it is installed. Projects outside
+# need no such function: add_library(NAME MODULE ...) and target_link_libraries(NAME PRIVATE Nodescope::extension) do.
+function(nodescope_add_plugin NAME)
+  cmake_parse_arguments(ARG "AUTOMOC" "" "FOLDERS;LINK;RESOURCES" ${ARGN})
+  nodescope_collect_sources(sources ${ARG_FOLDERS})
+  add_library(${NAME} MODULE ${sources} ${ARG_RESOURCES})
+  set_target_properties(${NAME} PROPERTIES LINKER_LANGUAGE CXX
+    LIBRARY_OUTPUT_DIRECTORY "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}/nodescope" INSTALL_RPATH "$ORIGIN/..")
+  if(ARG_AUTOMOC)
+    nodescope_use_automoc(${NAME})
+  endif()
+  target_link_libraries(${NAME} PRIVATE nodescope_extension ${ARG_LINK})
+  install(TARGETS ${NAME} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}/nodescope)
+endfunction()
+
 # nodescope_add_tests(NAME [AUTOMOC] LABEL unit|gui|e2e LINK ...): one test program made of all sources in the current folder.
 # Programs labelled gui or e2e find a display from ./test, which runs ctest under a virtual one.
 function(nodescope_add_tests NAME)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <vector>
 
 class QIODevice;
@@ -16,9 +17,10 @@ struct Configuration {
         std::vector<Name> controlled;
     };
 
-    std::vector<QString> libraries;
+    QStringList libraries;      ///< names without folder and extension
     std::vector<Active> active; ///< extensions of the profile in force
-    QString problem;            ///< what makes the text unusable, and where; empty: nothing
+    QStringList problems;       ///< what is wrong in the text, each with its place
 
+    /** Reads all that can be used. Nothing can of a text that is no XML or has another root. */
     static Configuration read(QIODevice& device);
 };
