@@ -17,7 +17,8 @@ class SoType;
  * The place of extensions in the main window, and the list of who edits which field type. Exists while an inspection
  * runs. GUI thread only.
  *
- * Widgets that are added get the main window as parent. Removing something that was not added does nothing.
+ * Widgets that are added get the main window as parent. Removing something that was not added does nothing. What an
+ * extension registered under its own pointer (editors, view toggle, preference page) goes with it at the latest.
  */
 class NSC_API NscShell : public QObject {
     Q_OBJECT
@@ -26,6 +27,8 @@ public:
     static NscShell* getInstance();
     ~NscShell() override;
 
+    /** Puts the dock into an area, or where the user left it: what the user moved, closed or tabbed comes back at the
+     * next start. A dock is known by its object name; one without gets its title for a name. */
     virtual void addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area) = 0;
     virtual void removeDockWidget(QDockWidget* dock) = 0;
     /** First those registered for the type or a base of it, then those registered for exactly this type. */
@@ -51,8 +54,12 @@ public:
     /** `timeout` in milliseconds; 0: until the next message. Text in Latin-1 characters. */
     virtual void showStatusMessage(const SbString& text, int timeout) = 0;
     virtual void removeStatusWidget(QWidget* widget) = 0;
+    /** As for a dock; the user's place comes back for tool bars that are added in NscExtension::activate(). */
     virtual void addToolBar(QToolBar* bar, Qt::ToolBarArea area) = 0;
     virtual void removeToolBar(QToolBar* bar) = 0;
+    /** Marks the extension's entry in the view menu without calling show() or hide(); for a view that the user closed
+     * by other means. */
+    virtual void setViewToggle(NscExtension* extension, bool isVisible) = 0;
 
 protected:
     /** Makes itself the instance; there may be none yet. */

@@ -120,6 +120,11 @@ void SoNodescopeMainFrame::restoreSettings()
     m_recentFiles->load();
 }
 
+void SoNodescopeMainFrame::restoreLayout()
+{
+    WindowGeometry::restoreLayout(*this);
+}
+
 void SoNodescopeMainFrame::saveSettings() const
 {
     WindowGeometry::save(*this);

@@ -47,6 +47,8 @@ public:
 
     /** Reads window geometry and recent files from the preference store. */
     void restoreSettings();
+    /** Puts docks and tool bars where the user left them; to be called when all are there that will be. */
+    void restoreLayout();
     void saveSettings() const;
 
 signals:

@@ -15,6 +15,13 @@ namespace {
 
 NscShellImpl* instance = nullptr;
 
+/** Layouts are stored by object names. */
+void giveName(QWidget& widget)
+{
+    if (widget.objectName().isEmpty())
+        widget.setObjectName(widget.windowTitle());
+}
+
 } // namespace
 
 NscShellImpl* NscShellImpl::getInstance(QWidget* parent)
@@ -41,18 +48,35 @@ NscShellImpl::NscShellImpl(QWidget* parent) : m_mainFrame(std::make_unique<SoNod
 
 NscShellImpl::~NscShellImpl()
 {
+    m_mainFrame.reset(); // an extension may be among its children, and is forgotten when it goes
     instance = nullptr;
+}
+
+void NscShellImpl::forgetWithItsEnd(NscExtension* extension)
+{
+    if (!m_followed.insert(extension).second)
+        return;
+    connect(extension, &QObject::destroyed, this, [this, extension] {
+        unregisterExtension(extension);
+        while (viewToggle(extension))
+            removeViewToggle(extension);
+        removePreferencePage(extension);
+        m_followed.erase(extension);
+    });
 }
 
 void NscShellImpl::addDockWidget(QDockWidget* dock, Qt::DockWidgetArea area)
 {
+    giveName(*dock);
     dock->setParent(m_mainFrame.get());
-    m_mainFrame->addDockWidget(area, dock);
+    if (!m_mainFrame->restoreDockWidget(dock)) // one that comes after the layout was restored
+        m_mainFrame->addDockWidget(area, dock);
 }
 
 void NscShellImpl::removeDockWidget(QDockWidget* dock)
 {
-    m_mainFrame->removeDockWidget(dock);
+    if (m_mainFrame->dockWidgetArea(dock) != Qt::NoDockWidgetArea)
+        m_mainFrame->removeDockWidget(dock);
 }
 
 std::vector<NscExtension*> NscShellImpl::getExtensions(SoType type) const
@@ -63,6 +87,7 @@ std::vector<NscExtension*> NscShellImpl::getExtensions(SoType type) const
 void NscShellImpl::registerExtension(SoType type, bool exact, NscExtension* extension)
 {
     m_editors.add(type, exact, extension);
+    forgetWithItsEnd(extension);
 }
 
 void NscShellImpl::addMenu(QMenu* menu)
@@ -78,6 +103,7 @@ void NscShellImpl::addViewToggle(NscExtension* extension, bool isVisible)
     connect(toggle, SIGNAL(toggled(bool)), this, SLOT(s_viewChanged(bool)));
     m_mainFrame->viewMenu()->addAction(toggle);
     m_viewToggles[toggle] = extension;
+    forgetWithItsEnd(extension);
 }
 
 void NscShellImpl::unregisterExtension(NscExtension* extension)
@@ -90,20 +116,32 @@ void NscShellImpl::removeMenu(QMenu* menu)
     m_mainFrame->menuBar()->removeAction(menu->menuAction());
 }
 
-void NscShellImpl::removeViewToggle(NscExtension* extension)
+QAction* NscShellImpl::viewToggle(const NscExtension* extension) const
 {
     const auto entry = std::find_if(m_viewToggles.begin(), m_viewToggles.end(),
                                     [&](const auto& toggle) { return toggle.second == extension; });
-    if (entry == m_viewToggles.end())
-        return;
-    QAction* const toggle = entry->first;
-    m_viewToggles.erase(entry);
+    return entry == m_viewToggles.end() ? nullptr : entry->first;
+}
+
+void NscShellImpl::removeViewToggle(NscExtension* extension)
+{
+    QAction* const toggle = viewToggle(extension);
+    m_viewToggles.erase(toggle);
     delete toggle; // which takes it out of the menu and cuts its connection
+}
+
+void NscShellImpl::setViewToggle(NscExtension* extension, bool isVisible)
+{
+    if (QAction* const toggle = viewToggle(extension)) {
+        const QSignalBlocker noCall(toggle);
+        toggle->setChecked(isVisible);
+    }
 }
 
 void NscShellImpl::addPreferencePage(NscExtension* extension, QWidget* page, const char* loadSlot, const char* saveSlot)
 {
     m_preferencePages[extension] = {page, loadSlot, saveSlot};
+    forgetWithItsEnd(extension);
 }
 
 void NscShellImpl::removePreferencePage(NscExtension* extension)
@@ -138,13 +176,15 @@ void NscShellImpl::removeStatusWidget(QWidget* widget)
 
 void NscShellImpl::addToolBar(QToolBar* bar, Qt::ToolBarArea area)
 {
+    giveName(*bar);
     bar->setParent(m_mainFrame.get());
     m_mainFrame->addToolBar(area, bar);
 }
 
 void NscShellImpl::removeToolBar(QToolBar* bar)
 {
-    m_mainFrame->removeToolBar(bar);
+    if (m_mainFrame->toolBarArea(bar) != Qt::NoToolBarArea)
+        m_mainFrame->removeToolBar(bar);
 }
 
 void NscShellImpl::s_viewChanged(bool isVisible)

@@ -4,8 +4,10 @@
 #include <nodescope/NodescopeApi.h>
 #include <nodescope/shell/EditorRegistry.h>
 
+#include <QPointer>
 #include <map>
 #include <memory>
+#include <set>
 
 class QAction;
 class SoNodescopeMainFrame;
@@ -16,7 +18,7 @@ class NODESCOPE_API NscShellImpl : public NscShell {
 public:
     /** A page of the preferences dialog that an extension added; slots as written in SLOT(). */
     struct PreferencePage {
-        QWidget* page;
+        QPointer<QWidget> page; ///< null: its owner deleted it
         QByteArray loadSlot;
         QByteArray saveSlot;
     };
@@ -50,6 +52,7 @@ public:
     void removeStatusWidget(QWidget* widget) override;
     void addToolBar(QToolBar* bar, Qt::ToolBarArea area) override;
     void removeToolBar(QToolBar* bar) override;
+    void setViewToggle(NscExtension* extension, bool isVisible) override;
 
 public slots:
     void s_viewChanged(bool isVisible);
@@ -57,8 +60,13 @@ public slots:
 private:
     explicit NscShellImpl(QWidget* parent);
 
+    QAction* viewToggle(const NscExtension* extension) const;
+    /** Takes back all that is under the extension's pointer when it is deleted. */
+    void forgetWithItsEnd(NscExtension* extension);
+
     std::unique_ptr<SoNodescopeMainFrame> m_mainFrame;
     std::map<QAction*, NscExtension*> m_viewToggles;
     EditorRegistry m_editors;
     PreferencePages m_preferencePages;
+    std::set<NscExtension*> m_followed;
 };

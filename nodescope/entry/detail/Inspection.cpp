@@ -97,6 +97,7 @@ void Inspection::initialize(const QStringList& arguments, const SoSceneManager* 
         frame.openFile(arguments.last());
     const ConfigurationSource::Source source = ConfigurationSource::resolveConfiguration();
     NscPluginsManager::getInstance()->read(source.pathOrText, source.isFile);
+    frame.restoreLayout(); // with the docks and tool bars of extensions
 }
 
 void Inspection::showMainFrame()

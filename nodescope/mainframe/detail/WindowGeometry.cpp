@@ -2,11 +2,12 @@
 
 #include <nodescope/preferences/SoPreferenceStore.h>
 
-#include <QWidget>
+#include <QMainWindow>
 
 namespace {
 
 constexpr int Unlimited = 32767;
+constexpr int Layout_version = 1; ///< a layout of another version is not restored
 
 QString key(const char* name)
 {
@@ -15,7 +16,7 @@ QString key(const char* name)
 
 } // namespace
 
-void WindowGeometry::restore(QWidget& window)
+void WindowGeometry::restore(QMainWindow& window)
 {
     const SoPreferenceStore& store = *SoPreferenceStore::getInstance();
     const int width = store.readInt(key("/WindowWidth"), Unlimited);
@@ -27,7 +28,13 @@ void WindowGeometry::restore(QWidget& window)
         window.resize(width, height);
 }
 
-void WindowGeometry::save(const QWidget& window)
+void WindowGeometry::restoreLayout(QMainWindow& window)
+{
+    const QString layout = SoPreferenceStore::getInstance()->readString(key("/DocksAndToolBars"), QString());
+    window.restoreState(QByteArray::fromBase64(layout.toLatin1()), Layout_version);
+}
+
+void WindowGeometry::save(const QMainWindow& window)
 {
     SoPreferenceStore& store = *SoPreferenceStore::getInstance();
     store.writeInt(key("/WindowWidth"), window.width());
@@ -35,4 +42,5 @@ void WindowGeometry::save(const QWidget& window)
     store.writeInt(key("/WindowX"), window.x());
     store.writeInt(key("/WindowY"), window.y());
     store.writeString(key("/MainWindowLayout"), QString());
+    store.writeString(key("/DocksAndToolBars"), QString::fromLatin1(window.saveState(Layout_version).toBase64()));
 }

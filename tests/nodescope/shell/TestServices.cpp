@@ -3,6 +3,9 @@
 #include <nodescope/shell/NscServicesImpl.h>
 #include <vexel/io/SoDB.h>
 #include <vexel/nodes/SoMaterial.h>
+#include <vexel/nodes/SoSelection.h>
+#include <vexel/sensors/SoSensorManager.h>
+#include <vexel/viewer/SoSceneManager.h>
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>
@@ -130,4 +133,37 @@ TEST_F(ServicesTest, WhatIsDestroyedIsNotSelectedAnyMore)
     EXPECT_EQ(services().getSelectedField(), nullptr);
     EXPECT_EQ(nodes.count(), 1);
     EXPECT_EQ(fields.count(), 1);
+}
+
+TEST_F(ServicesTest, RedrawWhenTheSelectionNodeChanges)
+{
+    auto* const selection = new SoSelection;
+    auto* const other = new SoSelection;
+    other->ref();
+    selection->addChild(m_material);
+    SoSceneManager manager;
+    int redraws = 0;
+    manager.setRenderCallback([](void* count, SoSceneManager*) { ++*static_cast<int*>(count); }, &redraws);
+    SoSensorManager& sensors = SoDB::getSensorManager();
+    sensors.processDelayQueue(false);
+    redraws = 0;
+
+    services().setSelection(selection);
+    EXPECT_EQ(selection->getRefCount(), 1);
+    selection->select(m_material); // nothing is known that draws
+    services().setSceneManager(&manager);
+    selection->deselectAll();
+    sensors.processDelayQueue(false);
+    EXPECT_EQ(redraws, 1);
+
+    selection->ref();
+    services().setSelection(other);
+    EXPECT_EQ(selection->getRefCount(), 1);
+    selection->select(m_material);
+    sensors.processDelayQueue(false);
+    EXPECT_EQ(redraws, 1);
+    services().setSelection(nullptr);
+    EXPECT_EQ(other->getRefCount(), 1);
+    other->unref();
+    selection->unref();
 }

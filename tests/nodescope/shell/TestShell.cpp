@@ -1,6 +1,7 @@
 #include "ShellFixture.h"
 
 #include <vexel/base/SoError.h>
+#include <vexel/fields/SoMFFloat.h>
 
 #include <QAction>
 #include <QDockWidget>
@@ -61,6 +62,44 @@ TEST_F(ShellTest, DocksStandInTheirArea)
     EXPECT_EQ(frame().dockWidgetArea(dock), Qt::RightDockWidgetArea);
     shell().removeDockWidget(dock);
     EXPECT_EQ(frame().dockWidgetArea(dock), Qt::NoDockWidgetArea);
+    shell().addDockWidget(dock, Qt::LeftDockWidgetArea);
+    dock->setFloating(true);
+    shell().removeDockWidget(dock);
+    EXPECT_EQ(frame().dockWidgetArea(dock), Qt::NoDockWidgetArea);
+}
+
+TEST_F(ShellTest, WhatWasNotAddedIsNotTouched)
+{
+    QDockWidget dock;
+    QToolBar bar;
+    QMenu menu;
+    QLabel label;
+    dock.show();
+    bar.show();
+    label.show();
+    shell().removeDockWidget(&dock);
+    shell().removeToolBar(&bar);
+    shell().removeMenu(&menu);
+    shell().removeStatusWidget(&label);
+    shell().unregisterExtension(&m_other);
+    shell().setViewToggle(&m_other, true);
+    EXPECT_TRUE(dock.isVisible());
+    EXPECT_TRUE(bar.isVisible());
+    EXPECT_TRUE(label.isVisible());
+}
+
+TEST_F(ShellTest, DocksAndToolBarsWithoutANameAreKnownByTheirTitle)
+{
+    auto* named = new QDockWidget("Dock");
+    named->setObjectName("name");
+    auto* unnamed = new QDockWidget("Other");
+    auto* bar = new QToolBar("Bar");
+    shell().addDockWidget(named, Qt::RightDockWidgetArea);
+    shell().addDockWidget(unnamed, Qt::RightDockWidgetArea);
+    shell().addToolBar(bar, Qt::TopToolBarArea);
+    EXPECT_EQ(named->objectName(), "name");
+    EXPECT_EQ(unnamed->objectName(), "Other");
+    EXPECT_EQ(bar->objectName(), "Bar");
 }
 
 TEST_F(ShellTest, ToolBarsStandInTheirArea)
@@ -102,6 +141,40 @@ TEST_F(ShellTest, AViewToggleShowsAndHidesItsExtension)
     shell().removeViewToggle(&m_extension);
     shell().removeViewToggle(&m_extension);
     EXPECT_EQ(textsOf(frame().viewMenu()->actions()), QStringList{"Other"});
+}
+
+TEST_F(ShellTest, AViewToggleFollowsAViewThatIsClosedByOtherMeans)
+{
+    shell().addViewToggle(&m_extension, true);
+    const QAction& entry = *frame().viewMenu()->actions().first();
+    shell().setViewToggle(&m_extension, false);
+    EXPECT_FALSE(entry.isChecked());
+    shell().setViewToggle(&m_extension, true);
+    EXPECT_TRUE(entry.isChecked());
+    EXPECT_EQ(m_extension.m_calls, QStringList{});
+}
+
+TEST_F(ShellTest, AnExtensionThatIsDeletedLeavesNothing)
+{
+    auto extension = std::make_unique<TestExtension>("Gone");
+    QWidget page;
+    shell().addViewToggle(extension.get(), true);
+    shell().addViewToggle(extension.get(), false);
+    shell().addPreferencePage(extension.get(), &page, "load()", "save()");
+    shell().registerExtension(SoMFFloat::getClassTypeId(), true, extension.get());
+    shell().registerExtension(SoMFFloat::getClassTypeId(), false, extension.get());
+    extension.reset();
+    EXPECT_EQ(textsOf(frame().viewMenu()->actions()), QStringList{});
+    EXPECT_TRUE(shell().getPreferencePages().empty());
+    EXPECT_TRUE(shell().getExtensions(SoMFFloat::getClassTypeId()).empty());
+}
+
+TEST_F(ShellTest, AnExtensionThatOutlivesTheShellIsForgottenByIt)
+{
+    shell().addViewToggle(&m_extension, true);
+    shell().registerExtension(SoMFFloat::getClassTypeId(), true, new TestExtension);
+    shell().getExtensions(SoMFFloat::getClassTypeId()).front()->setParent(&frame()); // goes with the window
+    NscShellImpl::deleteInstance();
 }
 
 TEST_F(ShellTest, AnUnknownSenderTogglesNothing)
