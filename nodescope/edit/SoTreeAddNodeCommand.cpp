@@ -2,7 +2,7 @@
 #include "SoCommandManager.h"
 #include "detail/ChildAccess.h"
 #include "detail/EditMessages.h"
-#include "detail/GraphLock.h"
+#include <vexel/io/SoDBWriteLock.h>
 
 #include <nodescope/tree/SoTreeViewItem.h>
 #include <vexel/base/SbName.h>
@@ -34,7 +34,7 @@ bool SoTreeAddNodeCommand::addNode(SoNode* node)
 bool SoTreeAddNodeCommand::place(SoNode& node)
 {
     if (!m_addsBeside && ChildAccess::accepts(m_item, node)) {
-        const GraphLock lock;
+        const SoDBWriteLock lock;
         ChildAccess::insert(*m_target.get(), node, ChildAccess::count(*m_target.get()));
         m_done.push_back({Appended, SoWeakPtr<SoNode>(&node)});
         return true;
@@ -48,7 +48,7 @@ bool SoTreeAddNodeCommand::place(SoNode& node)
         m_addsBeside ? Appended : ChildAccess::find(*m_parent.get(), *m_item->node(), m_item->position()) + 1;
     m_addsBeside = true;
     m_target = m_parent;
-    const GraphLock lock;
+    const SoDBWriteLock lock;
     ChildAccess::insert(*m_target.get(), node, index == Appended ? ChildAccess::count(*m_target.get()) : index);
     m_done.push_back({index, SoWeakPtr<SoNode>(&node)});
     return true;
@@ -74,7 +74,7 @@ bool SoTreeAddNodeCommand::addTypes(const std::vector<SbName>& types)
 void SoTreeAddNodeCommand::undo()
 {
     SoNode* const target = m_target.get();
-    const GraphLock lock;
+    const SoDBWriteLock lock;
     for (; !m_done.empty(); m_done.pop_back()) {
         const Addition& addition = m_done.back();
         SoNode* const node = addition.node.get();
@@ -95,7 +95,7 @@ void SoTreeAddNodeCommand::redo()
     SoNode* const target = m_target.get();
     if (!target)
         return;
-    const GraphLock lock;
+    const SoDBWriteLock lock;
     for (; !m_undone.empty(); m_undone.pop_back()) {
         const Addition& addition = m_undone.back();
         SoNode* const node = addition.node.get();

@@ -1,7 +1,7 @@
 #include "SoTreeMoveNodeCommand.h"
 #include "SoCommandManager.h"
 #include "detail/ChildAccess.h"
-#include "detail/GraphLock.h"
+#include <vexel/io/SoDBWriteLock.h>
 
 #include <nodescope/tree/SoGraphTopologyManager.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
@@ -68,7 +68,7 @@ void SoTreeMoveNodeCommand::move(const SoWeakPtr<SoNode>& from, int fromIndex, c
     if (index < 0)
         return; // the host took it out
     const SoGraphTopologyManager::Move keepsMarks(m_manager.treeView()->topologyManager(), node);
-    const GraphLock lock;
+    const SoDBWriteLock lock;
     node->ref();
     ChildAccess::remove(*from.get(), index);
     ChildAccess::insert(*to.get(), *node, toIndex);

@@ -1,0 +1,103 @@
+#include "EditorTable.h"
+
+#include <plugins/field_editors/editors/ListEditor.h>
+#include <plugins/field_editors/editors/SingleEditor.h>
+#include <plugins/field_editors/lists/FileTextColumns.h>
+#include <plugins/field_editors/lists/TypedColumns.h>
+#include <plugins/field_editors/values/FileTextWidget.h>
+#include <plugins/field_editors/values/NumbersWidget.h>
+#include <vexel/fields/SoMFFloat.h>
+#include <vexel/fields/SoMFInt32.h>
+#include <vexel/fields/SoMFShort.h>
+#include <vexel/fields/SoMFUInt32.h>
+#include <vexel/fields/SoMFUShort.h>
+#include <vexel/fields/SoMFVec2f.h>
+#include <vexel/fields/SoMFVec2i32.h>
+#include <vexel/fields/SoMFVec2s.h>
+#include <vexel/fields/SoMFVec3f.h>
+#include <vexel/fields/SoMFVec4f.h>
+#include <vexel/fields/SoSFFloat.h>
+#include <vexel/fields/SoSFInt32.h>
+#include <vexel/fields/SoSFShort.h>
+#include <vexel/fields/SoSFUInt32.h>
+#include <vexel/fields/SoSFUShort.h>
+#include <vexel/fields/SoSFVec2f.h>
+#include <vexel/fields/SoSFVec2i32.h>
+#include <vexel/fields/SoSFVec2s.h>
+#include <vexel/fields/SoSFVec3f.h>
+#include <vexel/fields/SoSFVec4f.h>
+#include <vexel/fields/SoSField.h>
+
+namespace {
+
+using Info = NscExtension::Info;
+
+template <class Field, class Widget>
+NscExtension* single(const Info& info)
+{
+    return new SingleEditor(info, Field::getClassTypeId(), true, new Widget);
+}
+
+template <class Field>
+NscExtension* numbers(const Info& info)
+{
+    return new SingleEditor(info, Field::getClassTypeId(), true, new NumbersWidget(NumberAccess::of<Field>()));
+}
+
+template <class List, class Single>
+NscExtension* numberList(const Info& info)
+{
+    return new ListEditor(info, List::getClassTypeId(), true, std::make_unique<NumberColumns<List, Single>>(),
+                          new NumbersWidget(NumberAccess::of<Single>()));
+}
+
+NscExtension* anySingle(const Info& info)
+{
+    return new SingleEditor(info, SoSField::getClassTypeId(), false, new FileTextWidget);
+}
+
+NscExtension* anyList(const Info& info)
+{
+    return new ListEditor(info, SoMField::getClassTypeId(), false, std::make_unique<FileTextColumns>(), nullptr);
+}
+
+struct Row {
+    const char* name;
+    NscExtension* (*create)(const Info& info);
+};
+
+const Row Editors[] = {
+    {"MField", anyList},
+    {"MFFloat", numberList<SoMFFloat, SoSFFloat>},
+    {"MFInt32", numberList<SoMFInt32, SoSFInt32>},
+    {"MFShort", numberList<SoMFShort, SoSFShort>},
+    {"MFUInt32", numberList<SoMFUInt32, SoSFUInt32>},
+    {"MFUShort", numberList<SoMFUShort, SoSFUShort>},
+    {"MFVec2f", numberList<SoMFVec2f, SoSFVec2f>},
+    {"MFVec2i32", numberList<SoMFVec2i32, SoSFVec2i32>},
+    {"MFVec2s", numberList<SoMFVec2s, SoSFVec2s>},
+    {"MFVec3f", numberList<SoMFVec3f, SoSFVec3f>},
+    {"MFVec4f", numberList<SoMFVec4f, SoSFVec4f>},
+    {"SFFloat", numbers<SoSFFloat>},
+    {"SFInt32", numbers<SoSFInt32>},
+    {"SField", anySingle},
+    {"SFShort", numbers<SoSFShort>},
+    {"SFUInt32", numbers<SoSFUInt32>},
+    {"SFUShort", numbers<SoSFUShort>},
+    {"SFVec2f", numbers<SoSFVec2f>},
+    {"SFVec2i32", numbers<SoSFVec2i32>},
+    {"SFVec2s", numbers<SoSFVec2s>},
+    {"SFVec3f", numbers<SoSFVec3f>},
+    {"SFVec4f", numbers<SoSFVec4f>},
+};
+
+} // namespace
+
+NscExtension* EditorTable::create(const SbString& name)
+{
+    for (const Row& row : Editors) {
+        if (name == row.name)
+            return row.create({name});
+    }
+    return nullptr;
+}

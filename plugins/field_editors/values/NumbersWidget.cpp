@@ -1,0 +1,197 @@
+#include "NumbersWidget.h"
+
+#include "DragLabel.h"
+#include "NumberBox.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QSlider>
+#include <QToolButton>
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int Slider_steps = 1000;
+/** A range up to this length is stepped by a tenth. */
+constexpr double Short_range = 2;
+
+enum Column { Name_column, Box_column, Slider_column };
+
+} // namespace
+
+NumbersWidget::NumbersWidget(const NumberAccess& access, QWidget* parent)
+    : ValueWidget(parent), m_access(access), m_value(access.create()),
+      m_problems(static_cast<std::size_t>(access.names.size()))
+{
+    auto* const grid = new QGridLayout;
+    grid->setColumnStretch(Box_column, 1);
+    auto* const rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addLayout(grid);
+    for (int i = 0; i < count(); ++i) {
+        addBox(i);
+        grid->addWidget(m_labels.back(), i, Name_column);
+        grid->addWidget(m_boxes.back(), i, Box_column);
+    }
+    if (count() == 1) {
+        addSlider();
+        grid->addWidget(m_slider, 0, Slider_column);
+        grid->setColumnStretch(Slider_column, 2);
+    } else {
+        addVectorButtons();
+        auto* const buttons = new QHBoxLayout;
+        buttons->addWidget(m_link);
+        buttons->addWidget(m_normalise);
+        buttons->addStretch();
+        rows->addLayout(buttons);
+    }
+}
+
+NumbersWidget::~NumbersWidget() = default;
+
+void NumbersWidget::addBox(int i)
+{
+    const QString name = m_access.names[i];
+    auto* const box = new NumberBox(m_access.kind);
+    auto* const label = new DragLabel(name.isEmpty() ? tr("Value") : name);
+    box->setAccessibleName(label->text());
+    m_boxes.push_back(box);
+    m_labels.push_back(label);
+    connect(box, &NumberBox::edited, this, [this, i](double number) { setNumber(i, number); });
+    connect(box, &NumberBox::gestureBegun, this, &NumbersWidget::gestureBegun);
+    connect(box, &NumberBox::gestureEnded, this, &NumbersWidget::gestureEnded);
+    connect(box, &NumberBox::problemChanged, this, [this, i](const QString& problem) {
+        m_problems[std::size_t(i)] = problem;
+        const auto first =
+            std::find_if(m_problems.begin(), m_problems.end(), [](const auto& p) { return !p.isEmpty(); });
+        emit problemChanged(first == m_problems.end() ? QString() : *first);
+    });
+    auto start = std::make_shared<double>();
+    connect(label, &DragLabel::dragBegun, this, [this, box, start] {
+        *start = box->value();
+        emit gestureBegun();
+    });
+    connect(label, &DragLabel::dragged, box, [box, start](int pixels) { box->dragTo(*start, pixels); });
+    connect(label, &DragLabel::dragEnded, this, &NumbersWidget::gestureEnded);
+}
+
+void NumbersWidget::addSlider()
+{
+    m_slider = new QSlider(Qt::Horizontal);
+    m_slider->setRange(0, Slider_steps);
+    m_slider->hide();
+    connect(m_slider, &QSlider::sliderPressed, this, &NumbersWidget::gestureBegun);
+    connect(m_slider, &QSlider::sliderReleased, this, &NumbersWidget::gestureEnded);
+    connect(m_slider, &QSlider::valueChanged, this, [this](int position) {
+        const double length = m_range.highest - m_range.lowest;
+        setNumber(0, m_range.lowest + length * position / Slider_steps);
+    });
+}
+
+void NumbersWidget::addVectorButtons()
+{
+    m_link = new QToolButton;
+    m_link->setIcon(QIcon(QStringLiteral(":/Field_editor_icons/link.png")));
+    m_link->setText(tr("Link"));
+    m_link->setToolTip(tr("Change all components together, in their proportions"));
+    m_link->setCheckable(true);
+    m_link->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    connect(m_link, &QToolButton::toggled, this, [this] { m_proportions.clear(); });
+    m_normalise = new QToolButton;
+    m_normalise->setIcon(QIcon(QStringLiteral(":/Field_editor_icons/normalise.png")));
+    m_normalise->setText(tr("Normalize"));
+    m_normalise->setToolTip(tr("Make the vector 1 long"));
+    m_normalise->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_normalise->setVisible(!m_access.kind.isWhole);
+    connect(m_normalise, &QToolButton::clicked, this, &NumbersWidget::normalise);
+}
+
+void NumbersWidget::showValue(const SoField& value)
+{
+    m_value->copyFrom(value);
+    showNumbers();
+}
+
+void NumbersWidget::showNumbers()
+{
+    double squares = 0;
+    for (int i = 0; i < count(); ++i) {
+        const double number = m_access.get(*m_value, i);
+        squares += number * number;
+        m_boxes[std::size_t(i)]->setValue(number);
+    }
+    if (m_slider) {
+        const double part = (m_access.get(*m_value, 0) - m_range.lowest) / (m_range.highest - m_range.lowest);
+        const QSignalBlocker quiet(m_slider);
+        m_slider->setValue(int(std::round(std::clamp(part, 0.0, 1.0) * Slider_steps)));
+    }
+    if (m_normalise)
+        m_normalise->setEnabled(m_link->isEnabled() && squares > 0);
+}
+
+void NumbersWidget::setReadOnly(bool isReadOnly)
+{
+    for (NumberBox* box : m_boxes)
+        box->setReadOnly(isReadOnly);
+    for (DragLabel* label : m_labels)
+        label->setReadOnly(isReadOnly);
+    if (m_slider)
+        m_slider->setEnabled(!isReadOnly);
+    if (m_link)
+        m_link->setEnabled(!isReadOnly);
+    showNumbers();
+}
+
+void NumbersWidget::setRange(const ValueRange* range)
+{
+    const bool isShort = range && !m_access.kind.isWhole && range->highest - range->lowest <= Short_range;
+    for (NumberBox* box : m_boxes)
+        box->setStep(isShort ? 0.1 : 1);
+    if (range)
+        m_range = *range;
+    if (m_slider) {
+        m_slider->setVisible(range);
+        showNumbers();
+    }
+}
+
+void NumbersWidget::setNumber(int i, double number)
+{
+    if (m_link && m_link->isChecked())
+        setLinked(i, number);
+    else
+        m_access.set(*m_value, i, number);
+    showNumbers();
+    emit edited(*m_value);
+}
+
+void NumbersWidget::setLinked(int i, double number)
+{
+    if (m_proportions.empty()) {
+        for (int k = 0; k < count(); ++k)
+            m_proportions.push_back(m_access.get(*m_value, k));
+    }
+    const double before = m_proportions[std::size_t(i)];
+    for (int k = 0; k < count(); ++k) {
+        // Beside a zero there is no proportion: all get the same number.
+        double linked = before == 0 ? number : m_proportions[std::size_t(k)] / before * number;
+        linked = std::clamp(linked, m_access.kind.lowest, m_access.kind.highest);
+        m_access.set(*m_value, k, m_access.kind.isWhole ? std::round(linked) : linked);
+    }
+    m_access.set(*m_value, i, number);
+}
+
+void NumbersWidget::normalise()
+{
+    double squares = 0;
+    for (int i = 0; i < count(); ++i)
+        squares += std::pow(m_access.get(*m_value, i), 2);
+    if (squares == 0)
+        return;
+    for (int i = 0; i < count(); ++i)
+        m_access.set(*m_value, i, m_access.get(*m_value, i) / std::sqrt(squares));
+    showNumbers();
+    emit edited(*m_value);
+}

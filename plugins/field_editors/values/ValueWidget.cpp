@@ -1,0 +1,3 @@
+#include "ValueWidget.h"
+
+void ValueWidget::setRange(const ValueRange*) {}
