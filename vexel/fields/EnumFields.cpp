@@ -68,11 +68,22 @@ void SoSFBitMask::writeValue(SoOutput& out) const
     m_enums.writeMask(out, getValue());
 }
 
-void SoMFEnum::copyFrom(const SoField& other)
+void SoMFEnum::takeEnums(const SoField& other)
 {
     if (m_enums.getNum() == 0 && other.getTypeId() == getTypeId())
         m_enums = static_cast<const SoMFEnum&>(other).m_enums;
+}
+
+void SoMFEnum::copyFrom(const SoField& other)
+{
+    takeEnums(other);
     SoMultiField<int>::copyFrom(other);
+}
+
+void SoMFEnum::replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum)
+{
+    takeEnums(from);
+    SoMultiField<int>::replaceValues(start, num, from, fromStart, fromNum);
 }
 
 bool SoMFEnum::readElement(SoInput& in, int& value) const

@@ -104,6 +104,7 @@ bool SoMField::set1(int index, const SbString& text)
     if (index < 0)
         return false;
     std::unique_ptr<SoMField> trial(static_cast<SoMField*>(getTypeId().createInstance()));
+    trial->replaceValues(0, 0, *this, 0, 0); // no values, but the mnemonics
     if (!readWhole(text, [&](SoInput& in) { return trial->read1Value(in, 0); }))
         return false;
     return readWhole(text, [&](SoInput& in) { return read1Value(in, index); });

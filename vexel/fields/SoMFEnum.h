@@ -23,7 +23,9 @@ public:
 
     const EnumTable& getEnums() const { return m_enums; }
 
+    // Both take the mnemonics over too, where there are none yet.
     void copyFrom(const SoField& other) override;
+    void replaceValues(int start, int num, const SoMField& from, int fromStart, int fromNum) override;
     bool readValue(SoInput& in) override;
     void writeValue(SoOutput& out) const override;
     bool read1Value(SoInput& in, int index) override;
@@ -33,4 +35,7 @@ protected:
     virtual bool readElement(SoInput& in, int& value) const;
 
     EnumTable m_enums;
+
+private:
+    void takeEnums(const SoField& other);
 };

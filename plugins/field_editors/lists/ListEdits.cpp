@@ -10,7 +10,9 @@ namespace {
 
 std::unique_ptr<SoMField> emptyLike(const SoMField& list)
 {
-    return std::unique_ptr<SoMField>(static_cast<SoMField*>(list.getTypeId().createInstance()));
+    std::unique_ptr<SoMField> empty(static_cast<SoMField*>(list.getTypeId().createInstance()));
+    empty->replaceValues(0, 0, list, 0, 0); // no values, but the mnemonics of an enumeration
+    return empty;
 }
 
 /** Spreadsheets end each line of what they copy, the last one too. */

@@ -39,9 +39,7 @@ FileTextWidget::~FileTextWidget() = default;
 void FileTextWidget::showValue(const SoField& value)
 {
     const bool isTyping = m_edit->hasFocus() && m_edit->toPlainText() != m_shown;
-    if (!m_value || m_value->getTypeId() != value.getTypeId())
-        m_value.reset(static_cast<SoField*>(value.getTypeId().createInstance()));
-    m_value->copyFrom(value);
+    m_value = copyOf(value);
     m_shown = textOf(*m_value);
     if (!isTyping && m_edit->toPlainText() != m_shown)
         showText();

@@ -1,3 +1,4 @@
+#include <vexel/fields/SoMFEnum.h>
 #include <vexel/fields/SoMFFloat.h>
 #include <vexel/fields/SoMFInt32.h>
 #include <vexel/fields/SoMFNode.h>
@@ -84,6 +85,18 @@ TEST(ReplaceValuesOf, nodesCountsReferences)
     EXPECT_EQ(2, cube->getRefCount());
     EXPECT_EQ(1, other->getRefCount());
     other->unref();
+}
+
+TEST(ReplaceValuesOf, anEnumerationTakesItsMnemonics)
+{
+    SoDB::init();
+    static const SoEnumEntry Names[] = {{"OFF", 0}, {"ON", 1}};
+    SoMFEnum field(nullptr, nullptr, 1, EnumTable(Names));
+    SoMFEnum other;
+    other.replaceValues(0, 0, field, 0, 1);
+    EXPECT_EQ(QString("ON"), other.get1(0).toQString());
+    EXPECT_TRUE(field.set1(1, "OFF"));
+    EXPECT_EQ(0, field[1]);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "EditorTable.h"
+#include <plugins/field_editors/EditorTable.h>
 
 #include <extension/NscPlugin.h>
 #include <plugins/field_editors/panel/FieldEditorPanel.h>
