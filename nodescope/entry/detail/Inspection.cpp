@@ -9,6 +9,7 @@
 #include <nodescope/edit/SoCommandManager.h>
 #include <nodescope/mainframe/SoNodescopeMainFrame.h>
 #include <nodescope/mainframe/SoNodescopeViewer.h>
+#include <nodescope/mainframe/detail/MessageDock.h>
 #include <nodescope/preferences/SoPreferenceStore.h>
 #include <nodescope/shell/NscServicesImpl.h>
 #include <nodescope/shell/NscShellImpl.h>
@@ -89,6 +90,7 @@ void Inspection::initialize(const QStringList& arguments, const SoSceneManager* 
     using Hosting = SoNodescopeMainFrame::Hosting;
     frame.setUp(&manager, services.isStandalone() ? Hosting::Standalone : Hosting::Attached);
     SoNodescopeViewer& viewer = *SoNodescopeViewer::getInstance();
+    auto* const messages = new MessageDock(frame);
     frame.restoreSettings();
     manager.initialize(&frame);
     if (!sceneManager)
@@ -98,6 +100,7 @@ void Inspection::initialize(const QStringList& arguments, const SoSceneManager* 
     const ConfigurationSource::Source source = ConfigurationSource::resolveConfiguration();
     NscPluginsManager::getInstance()->read(source.pathOrText, source.isFile);
     frame.restoreLayout(); // with the docks and tool bars of extensions
+    messages->begin(int(NscPluginsManager::getInstance()->getProblems().size()));
 }
 
 void Inspection::showMainFrame()

@@ -17,6 +17,7 @@ constexpr DockRow Rows[] = {
     {"dockMainWin", QT_TRANSLATE_NOOP("PanelDocks", "Tree View"), Qt::LeftDockWidgetArea},
     {"dockNodeOverview", QT_TRANSLATE_NOOP("PanelDocks", "Node Overview"), Qt::RightDockWidgetArea},
     {"dockFieldWatch", QT_TRANSLATE_NOOP("PanelDocks", "Field Watch"), Qt::BottomDockWidgetArea},
+    {"dockMessages", QT_TRANSLATE_NOOP("PanelDocks", "Messages"), Qt::BottomDockWidgetArea},
 };
 
 QString translated(const char* text)
@@ -37,6 +38,11 @@ QDockWidget* PanelDocks::add(SoNodescopeMainFrame& frame, Panel panel, QWidget* 
     frame.addDockWidget(row.area, dock);
     frame.viewMenu()->addAction(dock->toggleViewAction());
     return dock;
+}
+
+QDockWidget* PanelDocks::find(const SoNodescopeMainFrame& frame, Panel panel)
+{
+    return frame.findChild<QDockWidget*>(QLatin1String(Rows[int(panel)].name));
 }
 
 QDockWidget* PanelDocks::addSceneView(SoNodescopeMainFrame& frame)

@@ -433,6 +433,59 @@ Sie ist, wie sie vorher war.</translation>
         </message>
     </context>
     <context>
+        <name>MessageDock</name>
+        <message>
+            <source>One problem with plug-ins: see Messages</source>
+            <translation>Ein Problem mit Plug-ins: siehe Meldungen</translation>
+        </message>
+        <message>
+            <source>%1 problems with plug-ins: see Messages</source>
+            <translation>%1 Probleme mit Plug-ins: siehe Meldungen</translation>
+        </message>
+    </context>
+    <context>
+        <name>MessageLog</name>
+        <message>
+            <source>Problem</source>
+            <translation>Problem</translation>
+        </message>
+        <message>
+            <source>Note</source>
+            <translation>Hinweis</translation>
+        </message>
+        <message>
+            <source>Time</source>
+            <translation>Zeit</translation>
+        </message>
+        <message>
+            <source>Kind</source>
+            <translation>Art</translation>
+        </message>
+        <message>
+            <source>Source</source>
+            <translation>Quelle</translation>
+        </message>
+        <message>
+            <source>Text</source>
+            <translation>Text</translation>
+        </message>
+    </context>
+    <context>
+        <name>MessagePanel</name>
+        <message>
+            <source>Messages</source>
+            <translation>Meldungen</translation>
+        </message>
+        <message>
+            <source>Copy</source>
+            <translation>Kopieren</translation>
+        </message>
+        <message>
+            <source>Clear</source>
+            <translation>Leeren</translation>
+        </message>
+    </context>
+    <context>
         <name>PanelDocks</name>
         <message>
             <source>Tree View</source>
@@ -445,6 +498,10 @@ Sie ist, wie sie vorher war.</translation>
         <message>
             <source>Field Watch</source>
             <translation>Beobachtete Felder</translation>
+        </message>
+        <message>
+            <source>Messages</source>
+            <translation>Meldungen</translation>
         </message>
         <message>
             <source>Open Vexel SceneViewer</source>
