@@ -124,14 +124,24 @@ int ListTable::currentRow() const
 bool ListTable::eventFilter(QObject* watched, QEvent* event)
 {
     // Keys of the table are not left to the window, where they would delete or copy nodes.
-    if (watched == m_view && event->type() == QEvent::ShortcutOverride) {
-        const auto& key = static_cast<QKeyEvent&>(*event);
-        const QKeySequence keys(int(key.modifiers()) | key.key());
-        const QList<QAction*> actions = m_view->actions();
-        if (std::any_of(actions.begin(), actions.end(), [&](const QAction* a) { return a->shortcut() == keys; }))
-            event->accept();
+    if (watched == m_view && event->type() == QEvent::ShortcutOverride && actionOf(static_cast<QKeyEvent&>(*event)))
+        event->accept();
+    if (watched == m_view && event->type() == QEvent::KeyPress) {
+        if (QAction* const action = actionOf(static_cast<QKeyEvent&>(*event))) {
+            action->trigger();
+            return true;
+        }
     }
     return QWidget::eventFilter(watched, event);
+}
+
+QAction* ListTable::actionOf(const QKeyEvent& event) const
+{
+    const QKeySequence keys(int(event.modifiers() & ~Qt::KeypadModifier) | event.key());
+    const QList<QAction*> actions = m_view->actions();
+    const auto found =
+        std::find_if(actions.begin(), actions.end(), [&](const QAction* a) { return a->shortcut() == keys; });
+    return found == actions.end() ? nullptr : *found;
 }
 
 std::vector<CellRange> ListTable::selectedRanges() const

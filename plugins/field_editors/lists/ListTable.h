@@ -8,6 +8,7 @@ class FieldBinding;
 class ListColumns;
 class ListModel;
 class QAction;
+class QKeyEvent;
 class QTableView;
 class QToolBar;
 class SoMField;
@@ -42,6 +43,7 @@ private:
     void setUpView();
     void setUpActions();
     void updateActions();
+    QAction* actionOf(const QKeyEvent& event) const;
     std::vector<CellRange> selectedRanges() const;
     CellRange selectedSpan() const;
 

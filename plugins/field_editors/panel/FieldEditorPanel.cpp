@@ -49,8 +49,8 @@ FieldEditorPanel::~FieldEditorPanel()
 void FieldEditorPanel::activate()
 {
     NscShell& shell = *NscShell::getInstance();
+    shell.addViewToggle(this, false);
     shell.addDockWidget(m_dock, Qt::RightDockWidgetArea);
-    shell.addViewToggle(this, !m_dock->isHidden());
     NscServices& services = *NscServices::getInstance();
     connect(&services, &NscServices::selectedFieldChanged, this, &FieldEditorPanel::setField);
     setField(services.getSelectedField());
@@ -69,12 +69,9 @@ void FieldEditorPanel::hide()
 
 bool FieldEditorPanel::eventFilter(QObject* watched, QEvent* event)
 {
-    // The user closed the dock itself: its entry in the menu follows.
-    if (watched == m_dock && event->type() == QEvent::Close) {
-        NscShell& shell = *NscShell::getInstance();
-        shell.removeViewToggle(this);
-        shell.addViewToggle(this, false);
-    }
+    // However the dock was shown or closed, its entry in the menu follows.
+    if (watched == m_dock && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
+        NscShell::getInstance()->setViewToggle(this, !m_dock->isHidden());
     return NscExtension::eventFilter(watched, event);
 }
 

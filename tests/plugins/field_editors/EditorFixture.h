@@ -33,8 +33,10 @@ protected:
             m_panel = std::make_unique<FieldEditorPanel>(NscExtension::Info{"Field Editor"});
             m_panel->activate();
         }
-        frame().activateWindow();
         NscServices::getInstance()->setSelectedField(&field);
+        frame().activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&frame()));
+        EXPECT_TRUE(QTest::qWaitFor([this] { return dock().isVisible(); }));
     }
     QDockWidget& dock() { return *frame().findChild<QDockWidget*>("FieldEditor"); }
     /** The first widget of a kind that the user sees in the panel. */

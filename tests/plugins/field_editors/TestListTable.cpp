@@ -22,13 +22,20 @@ protected:
         m_faces->coordIndex.setValues(std::vector<std::int32_t>{10, 20, 30, -1});
         addEditor("MFInt32");
         select(m_faces->coordIndex);
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&frame()));
         m_table = seen<QTableView>();
         m_table->setFocus();
     }
 
     QString cell(int row, int column = 0) const { return m_table->model()->index(row, column).data().toString(); }
     void setCurrent(int row) { m_table->setCurrentIndex(m_table->model()->index(row, 0)); }
+    /** Types into the current cell; the first key opens it. */
+    QLineEdit* type(const QString& text)
+    {
+        QTest::keyClicks(m_table, text.left(1));
+        auto* const edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+        QTest::keyClicks(edit, text.mid(1));
+        return edit;
+    }
     QString values() const { return m_faces->coordIndex.get().toQString().simplified(); }
     QString problem()
     {
@@ -66,9 +73,8 @@ TEST_F(ListTableTest, keepsTheCurrentRowWhenTheHostChangesTheList)
 TEST_F(ListTableTest, aCellIsTypedAndUndone)
 {
     setCurrent(1);
-    QTest::keyClicks(m_table->viewport(), "77");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(QString("[ 10, 77, 30, -1 ]"), values());
+    QTest::keyClick(type("77"), Qt::Key_Return);
+    QTRY_COMPARE(values(), QString("[ 10, 77, 30, -1 ]"));
     undo();
     EXPECT_EQ(QString("[ 10, 20, 30, -1 ]"), values());
 }
@@ -76,13 +82,11 @@ TEST_F(ListTableTest, aCellIsTypedAndUndone)
 TEST_F(ListTableTest, aCellThatIsNoValueIsMarkedAndNotApplied)
 {
     setCurrent(1);
-    QTest::keyClicks(m_table->viewport(), "7.5");
-    auto* const edit = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    ASSERT_TRUE(edit);
+    QLineEdit* const edit = type("7.5");
     EXPECT_EQ(QString("\"7.5\" is not a whole number."), edit->toolTip());
     QTest::keyClick(edit, Qt::Key_Return);
+    QTRY_COMPARE(problem(), QString("\"7.5\" is not a whole number."));
     EXPECT_EQ(QString("[ 10, 20, 30, -1 ]"), values());
-    EXPECT_EQ(QString("\"7.5\" is not a whole number."), problem());
 }
 
 TEST_F(ListTableTest, keysInsertAndRemoveValuesAndNoNodes)
@@ -146,9 +150,8 @@ TEST_F(ListTableTest, tenMillionValuesAreShownAndEdited)
     const QModelIndex last = m_table->model()->index(9'999'999, 2);
     m_table->scrollToBottom();
     m_table->setCurrentIndex(last);
-    QTest::keyClicks(m_table->viewport(), "4");
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    EXPECT_EQ(SbVec3f(0, 0, 4), points->point[9'999'999]);
+    QTest::keyClick(type("4"), Qt::Key_Return);
+    QTRY_COMPARE(points->point[9'999'999][2], 4.0f);
     undo();
     EXPECT_EQ(SbVec3f(0, 0, 0), points->point[9'999'999]);
 }

@@ -188,7 +188,6 @@ TEST_F(PanelTest, textThatIsNoValueIsMarkedAndNotApplied)
 {
     addEditor("SField");
     select(m_cone->height);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&frame()));
     auto* const edit = seen<QPlainTextEdit>();
     edit->setFocus();
     edit->selectAll();
