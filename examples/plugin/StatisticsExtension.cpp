@@ -130,7 +130,7 @@ void StatisticsExtension::showCounts()
                         .arg(m_counts.lines)
                         .arg(m_counts.points)
                         .arg(m_isOld ? tr("\n\nThe graph has changed since.") : QString()));
-    m_status->setText(tr("%1 nodes, %2 triangles").arg(m_counts.nodes).arg(m_counts.triangles));
+    m_status->setText(tr("Nodes: %1, triangles: %2").arg(m_counts.nodes).arg(m_counts.triangles));
 }
 
 void StatisticsExtension::loadPreferences()

@@ -8,7 +8,7 @@
 //     ```cpp
 //     ...
 //     ```
-// where FILE holds the same lines between "// [NAME]" and "// [end]".
+// where FILE holds the same lines between "// [NAME]" and "// [end]". Without a NAME it quotes the whole file.
 
 namespace {
 
@@ -21,16 +21,18 @@ struct Quote {
 
 std::vector<Quote> quotesIn(const std::string& document)
 {
-    static const std::regex Pattern("<!-- ([^ :]+): (\\w+) -->\n```cpp\n([^`]*)```");
+    static const std::regex Pattern("<!-- ([^ :]+)(?:: (\\w+))? -->\n```\\w+\n([^`]*)```");
     std::vector<Quote> quotes;
     for (std::sregex_iterator match(document.begin(), document.end(), Pattern), end; match != end; ++match)
         quotes.push_back({(*match)[1], (*match)[2], (*match)[3], std::size_t(match->position())});
     return quotes;
 }
 
-/** What stands between the markers; empty when there are none. */
+/** What stands between the markers, empty when there are none; all without a name. */
 std::string markedPart(const std::string& source, const std::string& name)
 {
+    if (name.empty())
+        return source;
     const std::string begin = "// [" + name + "]\n";
     const auto from = source.find(begin);
     if (from == std::string::npos)
@@ -52,6 +54,10 @@ TEST(Snippets, AreFoundByTheirMarkers)
     EXPECT_EQ(markedPart("int a;\n// [part]\nint x;\n// [end]\n", "part"), "int x;\n");
     EXPECT_EQ(markedPart("// [part]\nint x;\n", "part"), "");
     EXPECT_EQ(markedPart("int x;\n", "part"), "");
+    const auto wholes = quotesIn("<!-- a/c.xml -->\n```xml\n<x/>\n```\n");
+    ASSERT_EQ(wholes.size(), 1u);
+    EXPECT_EQ(wholes[0].name, "");
+    EXPECT_EQ(markedPart("<x/>\n", wholes[0].name), wholes[0].text);
 }
 
 TEST(Snippets, SayWhatTheCompiledFilesSay)
@@ -68,7 +74,8 @@ TEST(Snippets, SayWhatTheCompiledFilesSay)
                     part = markedPart(source.text, quote.name);
             }
             EXPECT_EQ(quote.text, part) << document.at(quote.offset) << ": copy the lines between '// [" << quote.name
-                                        << "]' and '// [end]' of " << quote.file << " here";
+                                        << "]' and '// [end]' of " << quote.file
+                                        << " here, or without a name the whole file";
         }
     }
     EXPECT_GT(checked, 0u);

@@ -80,7 +80,7 @@ TEST_F(ExamplePluginTest, CountsTheGraphOfTheSelectedNode)
     EXPECT_EQ(text(), "Separator\nNodes: 3\nShapes: 1\nTriangles: 12\nLines: 0\nPoints: 0");
     bool isInStatusBar = false;
     for (const QLabel* label : frame().statusBar()->findChildren<QLabel*>())
-        isInStatusBar |= label->text() == "3 nodes, 12 triangles";
+        isInStatusBar |= label->text() == "Nodes: 3, triangles: 12";
     EXPECT_TRUE(isInStatusBar);
 
     m_root->addChild(new SoCube);
