@@ -1,5 +1,6 @@
 #include "RepositoryFiles.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <regex>
@@ -11,8 +12,21 @@ struct Link {
     std::size_t offset;
 };
 
-std::vector<Link> localLinks(const std::string& text)
+/** Code between fences has brackets too; blanks keep the places of all else. */
+std::string withoutCode(std::string text)
 {
+    const std::string fence = "\n```";
+    for (auto begin = text.find(fence); begin != std::string::npos; begin = text.find(fence, begin)) {
+        const auto end = std::min(text.find(fence, begin + 1), text.size());
+        std::fill(text.begin() + std::ptrdiff_t(begin), text.begin() + std::ptrdiff_t(end), ' ');
+        begin = std::min(end + fence.size(), text.size());
+    }
+    return text;
+}
+
+std::vector<Link> localLinks(const std::string& document)
+{
+    const std::string text = withoutCode(document);
     static const std::regex Pattern(R"re(\]\(([^)\s]*)[^)]*\)|(?:src|href)="([^"]*)")re");
     std::vector<Link> links;
     for (std::sregex_iterator match(text.begin(), text.end(), Pattern), end; match != end; ++match) {
@@ -31,6 +45,7 @@ TEST(Documents, LocalLinksAreRecognised)
     const auto links =
         localLinks("[a](b/c.md#top) ![p](p.png \"title\") [w](https://x.org) [s](#here) <img src=\"q.png\">");
     ASSERT_EQ(links.size(), 3u);
+    EXPECT_EQ(localLinks("x\n```cpp\n[a](b)\n```\n[c](d)\n```\n[e](f)\n").size(), 1u);
     EXPECT_EQ(links[0].target, "b/c.md");
     EXPECT_EQ(links[1].target, "p.png");
     EXPECT_EQ(links[2].target, "q.png");
