@@ -31,9 +31,14 @@ struct SoNotRec {
  * being told. Each container passes on a change once, however many ways lead to it; the stamp tells it so.
  */
 struct SoNotList {
-    explicit SoNotList(SoTriggerType triggerType = SO_TRIGGER_UNSPECIFIED) : stamp(nextStamp()), type(triggerType) {}
+    explicit SoNotList(SoTriggerType triggerType = SO_TRIGGER_UNSPECIFIED)
+        : stamp(nextStamp()), origin(stamp), type(triggerType)
+    {
+    }
 
     std::uint32_t stamp;
+    /** Stamp of the change that led to this one over connections; the own one for a change at first hand. */
+    std::uint32_t origin;
     SoTriggerType type;
     /** The field that changed; null when children changed or a node was touched. */
     SoField* field = nullptr;

@@ -35,6 +35,7 @@ void SoEngineOutput::giveValueTo(SoField& field)
 {
     if (!m_enabled)
         return;
+    m_engine->m_toldOrigin = 0;
     if (field.getTypeId() == m_type) {
         m_engine->evaluate(*this, field);
         return;
@@ -44,12 +45,12 @@ void SoEngineOutput::giveValueTo(SoField& field)
     convertField(*value, field);
 }
 
-void SoEngineOutput::notifyConnections()
+void SoEngineOutput::notifyConnections(std::uint32_t origin)
 {
     if (!m_enabled)
         return;
     for (SoField* field : std::vector<SoField*>(m_connections))
-        field->sourceChanged();
+        field->sourceChanged(origin);
 }
 
 SoEngineOutput* SoEngine::getOutput(const SbName& name) const
@@ -61,11 +62,22 @@ SoEngineOutput* SoEngine::getOutput(const SbName& name) const
     return nullptr;
 }
 
+bool SoEngine::inputChanged(const SoField*)
+{
+    return true;
+}
+
 void SoEngine::notify(SoNotList& list)
 {
+    const bool isOwn = list.field && list.field->getContainer() == this;
+    const bool hasOtherValues = inputChanged(isOwn ? list.field : nullptr);
     if (!isNotifyEnabled() || isNotifiedOf(list))
         return;
     SoFieldContainer::notify(list);
+    // One change may come in over many connections: whoever has not fetched a value yet knows of it already.
+    if (!hasOtherValues || m_toldOrigin == list.origin)
+        return;
+    m_toldOrigin = list.origin;
     for (SoEngineOutput* output : m_outputs)
-        output->notifyConnections();
+        output->notifyConnections(list.origin);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include <vexel/base/SbName.h>
@@ -35,7 +36,7 @@ private:
     void addConnection(SoField* field);
     void removeConnection(SoField* field);
     void giveValueTo(SoField& field);
-    void notifyConnections();
+    void notifyConnections(std::uint32_t origin);
 
     SoEngine* m_engine;
     SbName m_name;

@@ -62,7 +62,8 @@ public:
 
     /** True until the field is given a value, also when that value equals the default. */
     bool isDefault() const { return hasFlag(Default); }
-    void setDefault(bool on) { setFlag(Default, on); }
+    /** Sets the mark alone; the value stays, and only the sensors of the field are told. */
+    void setDefault(bool on);
     bool isIgnored() const { return hasFlag(Ignored); }
     void setIgnored(bool on);
 
@@ -82,11 +83,13 @@ public:
 
     /**
      * Connects this field to @p source: it takes that field's value now and whenever it changes, converted when the
-     * types differ. A former connection is cut, unless @p append is set and the source is there already.
-     * @return false when the types cannot be converted, or the source is this field
+     * types differ. A former connection is cut.
+     * @return false when the types cannot be converted, the source is this field, or it is of an engine that needs the
+     * value of this field itself
      */
     bool connectFrom(SoField* source);
     bool connectFrom(SoEngineOutput* source);
+    /** Keeps the value that came over the connection; only the sensors of the field are told. */
     void disconnect();
     bool isConnected() const { return isConnectedFromField() || isConnectedFromEngine(); }
     bool isConnectedFromField() const { return getConnectedField() != nullptr; }
@@ -176,8 +179,12 @@ private:
         m_flags = static_cast<std::uint16_t>(on ? m_flags | flag : m_flags & ~flag);
     }
     SoFieldLinks& links();
-    void sourceChanged();
+    /** @param origin  see SoNotList; 0 for a change at first hand */
+    void sourceChanged(std::uint32_t origin = 0);
     void evaluateConnection() const;
+    void tellSensors();
+    void connected();
+    void release();
     void cutConnection();
     void cutFollowers();
 

@@ -10,6 +10,7 @@
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoReadError.h>
 #include <vexel/draggers/detail/ManipTypes.h>
+#include <vexel/engines/detail/EngineTypes.h>
 #include <vexel/fields/SoFieldContainer.h>
 #include <vexel/fields/SoSFTime.h>
 #include <vexel/fields/detail/FieldTypes.h>
@@ -121,6 +122,7 @@ void SoDB::init()
     registerNodeTypes();
     registerKitTypes();
     registerManipTypes();
+    registerEngineTypes();
     createGlobalField("realTime", SoSFTime::getClassTypeId());
     static SoTimerSensor clock(setRealTime);
     setRealTime(nullptr, nullptr);

@@ -14,6 +14,8 @@
 #include <vexel/nodes/SoCube.h>
 #include <vexel/nodes/SoSphere.h>
 
+#include <QTest>
+
 namespace {
 
 /** A container with a field of each kind that is shown in its own way. */
@@ -140,6 +142,25 @@ TEST_F(FieldValuesTest, MarkersFollowTheField)
     showcase->size.connectFrom(&showcase->result);
     EXPECT_FALSE(row->icon(SoFieldItem::IgnoredColumn).isNull());
     EXPECT_FALSE(row->icon(SoFieldItem::ConnectedColumn).isNull());
+}
+
+TEST_F(FieldValuesTest, MarkersAreDrawnAnewWhenAConnectionComesOrGoes)
+{
+    const SoFieldItem* row = add(*showcase, "size");
+    list->show();
+    const auto isDrawn = [&] { return QTest::qWaitFor([&] { return !row->needsRefresh(); }); };
+    ASSERT_TRUE(isDrawn());
+    showcase->size.connectFrom(&showcase->result);
+    EXPECT_TRUE(row->needsRefresh());
+    ASSERT_TRUE(isDrawn());
+    showcase->size.disconnect();
+    EXPECT_TRUE(row->needsRefresh());
+    EXPECT_TRUE(row->icon(SoFieldItem::ConnectedColumn).isNull());
+    ASSERT_TRUE(isDrawn());
+    EXPECT_TRUE(row->isChanged());
+    showcase->size.setDefault(true); // the row is drawn in another colour
+    EXPECT_TRUE(row->needsRefresh());
+    EXPECT_FALSE(row->isChanged());
 }
 
 TEST_F(FieldValuesTest, OnlyTheFirstValuesOfAHugeListAreLookedAt)

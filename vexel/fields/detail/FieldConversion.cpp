@@ -76,6 +76,15 @@ SbString joined(const std::vector<double>& numbers, SoType to)
     return SbString(list ? text + ']' : text);
 }
 
+// A value takes the first one of a list of its kind, and other types whatever numbers there are.
+bool takeFirst(const SoField& from, SoField& to)
+{
+    if (to.isOfType(SoMField::getClassTypeId()) || !from.isOfType(SoMField::getClassTypeId()))
+        return false;
+    const SbString first = static_cast<const SoMField&>(from).get1(0);
+    return !first.isEmpty() && to.set(first);
+}
+
 } // namespace
 
 bool canConvertField(SoType from, SoType to)
@@ -88,6 +97,8 @@ bool canConvertField(SoType from, SoType to)
     auto* target = static_cast<SoField*>(to.createInstance());
     if (!source || !target)
         return false;
+    if (from.isDerivedFrom(SoMField::getClassTypeId()))
+        static_cast<SoMField*>(source)->setNum(1);
     const SbString text = source->get();
     const bool convertible = target->set(text) || target->set(joined(numbersOf(text), to));
     delete source;
@@ -105,6 +116,8 @@ void convertField(const SoField& from, SoField& to)
         to.touch();
         return;
     }
+    if (!isText(to.getTypeId()) && takeFirst(from, to))
+        return;
     const SbString text = from.get();
     if (isText(to.getTypeId())) {
         if (from.isOfType(SoSFString::getClassTypeId()) || from.isOfType(SoMFString::getClassTypeId()))

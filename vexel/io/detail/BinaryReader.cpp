@@ -8,8 +8,6 @@
 
 #include <vexel/base/SoPath.h>
 #include <vexel/base/SoReadError.h>
-#include <vexel/engines/SoEngine.h>
-#include <vexel/engines/SoEngineOutput.h>
 #include <vexel/fields/SoField.h>
 #include <vexel/io/SoInput.h>
 #include <vexel/io/detail/BinaryFormat.h>
@@ -226,6 +224,7 @@ bool BinaryReader::readField(SoFieldContainer& container, const Chunk& chunk)
                                 .c_str());
         return true;
     }
+    field->disconnect(); // a new object may have connections of its own
     std::vector<SoBase*> objects;
     Chunk connection;
     while (body.size() > 0) {
@@ -286,23 +285,28 @@ bool BinaryReader::readConnection(SoField& field, const Chunk& chunk)
     Chunk part;
     if (!nameAt(chunk.argument, outputName, body.at) || !takeChunk(body, part))
         return false;
-    SoField* master = nullptr;
-    SoEngineOutput* output = nullptr;
+    SoFieldContainer* source = nullptr;
+    bool isComplete = true;
     if (part.kind == BinaryFormat::Global) {
         SoInput in;
         in.setBuffer(part.body.at, part.body.size());
-        in.sceneReader().readGlobalField(master);
+        SoField* global = nullptr;
+        if (in.sceneReader().readGlobalField(global))
+            source = global->getContainer();
+    } else if (part.kind == BinaryFormat::Use && part.argument < m_made.size()) {
+        // Also of an object that is not complete: a connection leads to it, it is not contained.
+        source = m_made[part.argument].container;
+        isComplete = !m_made[part.argument].isOpen;
     } else {
         SoBase* base = nullptr;
         if (!readObject(part, base))
             return false;
-        if (base && base->isOfType(SoEngine::getClassTypeId()))
-            output = static_cast<SoEngine*>(base)->getOutput(SbName(outputName));
-        if (base && !output && base->isOfType(SoFieldContainer::getClassTypeId()))
-            master = static_cast<SoFieldContainer*>(base)->getField(SbName(outputName));
+        if (base && base->isOfType(SoFieldContainer::getClassTypeId()))
+            source = static_cast<SoFieldContainer*>(base);
     }
-    if (!(output && field.connectFrom(output)) && !(master && field.connectFrom(master)))
-        post(chunk.body.at, "there is nothing to connect to, or its type does not fit");
+    const char* obstacle = source ? m_connections.connect(field, *source, outputName, isComplete) : "it has no source";
+    if (obstacle)
+        post(chunk.body.at, (std::string("a connection is left out: ") + obstacle).c_str());
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <vexel/io/detail/KeptObjects.h>
+#include <vexel/io/detail/SceneConnections.h>
 
 class SoBase;
 class SoField;
@@ -63,5 +64,6 @@ private:
     };
     std::vector<Made> m_made;
     KeptObjects m_kept;
+    SceneConnections m_connections;
     int m_depth = 0;
 };

@@ -1,11 +1,7 @@
 #include <vexel/io/detail/SceneReader.h>
 
-#include <vexel/base/SoPath.h>
-#include <vexel/engines/SoEngine.h>
-#include <vexel/engines/SoEngineOutput.h>
 #include <vexel/fields/SoField.h>
 #include <vexel/fields/SoFieldContainer.h>
-#include <vexel/io/SoDB.h>
 #include <vexel/io/SoInput.h>
 #include <vexel/io/detail/NewContainer.h>
 #include <vexel/nodes/SoChildList.h>
@@ -74,11 +70,10 @@ bool SceneReader::readContainer(SoType family, SoFieldContainer*& container)
         return m_in.postError("a node");
     if (word == "NULL")
         return true;
-    std::string_view outputName;
     if (word == "USE") {
         m_text.skipSpace();
         const char* place = m_text.position();
-        if (!readUse(container, outputName))
+        if (!readUse(container))
             return false;
         leaveOutUnlessOf(family, place, container);
         return true;
@@ -103,22 +98,14 @@ void SceneReader::leaveOutUnlessOf(SoType family, const char* place, SoFieldCont
     container = nullptr;
 }
 
-bool SceneReader::readUse(SoFieldContainer*& container, std::string_view& outputName)
+bool SceneReader::readUse(SoFieldContainer*& container)
 {
     m_text.skipSpace();
     const char* place = m_text.position();
     const std::string_view word = m_text.readWord();
-    auto found = m_definitions.find(std::string(word));
-    if (found == m_definitions.end()) {
-        // In a connection the name of the node and the name of its output form one word.
-        const std::size_t point = word.rfind('.');
-        if (point != std::string_view::npos) {
-            found = m_definitions.find(std::string(word.substr(0, point)));
-            outputName = word.substr(point + 1);
-        }
-    }
+    const auto found = m_definitions.find(std::string(word));
     if (found == m_definitions.end())
-        return m_in.postErrorAt(place, "USE of " + quoted(word) + ", which no DEF before it defines");
+        return postUndefined(place, word);
     if (found->second.isOpen)
         return m_in.postErrorAt(place,
                                 "USE of " + quoted(word) +
@@ -126,6 +113,11 @@ bool SceneReader::readUse(SoFieldContainer*& container, std::string_view& output
                                     "left out");
     container = found->second.container;
     return true;
+}
+
+bool SceneReader::postUndefined(const char* place, std::string_view word)
+{
+    return m_in.postErrorAt(place, "USE of " + quoted(word) + ", which no DEF before it defines");
 }
 
 bool SceneReader::readDefined(SoType family, std::string_view typeName, const std::string* name,
@@ -193,6 +185,7 @@ bool SceneReader::readBody(SoFieldContainer& container, const char* opening)
         // A brace behind a word makes it the type of a node, even where a field has the same name.
         SoField* field = word.empty() || m_text.peek() == '{' ? nullptr : container.getField(SbName(word));
         if (field) {
+            field->disconnect(); // a new object may have connections of its own
             good = readField(*field);
         } else {
             m_text.setPosition(start);
@@ -294,99 +287,4 @@ bool SceneReader::readField(SoField& field)
     if (m_text.accept('~'))
         field.setIgnored(true);
     return m_text.peek() != '=' || readConnection(field);
-}
-
-bool SceneReader::readConnection(SoField& field)
-{
-    m_text.accept('=');
-    m_text.skipSpace();
-    const char* start = m_text.position();
-    SoFieldContainer* source = nullptr;
-    SoField* global = nullptr;
-    std::string_view outputName;
-    const std::string_view word = m_text.readWord();
-    bool isReported = false;
-    if (word == "USE") {
-        isReported = !readUse(source, outputName);
-    } else if (word == "GlobalField") {
-        if (!readGlobal(global))
-            return false;
-        source = global->getContainer();
-    } else {
-        m_text.setPosition(start);
-        if (!readContainer(SoFieldContainer::getClassTypeId(), source))
-            return false;
-    }
-    if (outputName.empty() && m_text.peek() == '.') {
-        const std::string_view rest = m_text.readWord();
-        outputName = rest == "." ? m_text.readWord() : rest.substr(rest.empty() || rest.front() != '.' ? 0 : 1);
-    }
-    if (isReported)
-        return true;
-    if (!source || outputName.empty())
-        return m_in.postErrorAt(start, "expected a node, a point and the name of its field or output to connect to");
-
-    const SbName name(outputName);
-    SoEngineOutput* output =
-        source->isOfType(SoEngine::getClassTypeId()) ? static_cast<SoEngine*>(source)->getOutput(name) : nullptr;
-    SoField* master = output ? nullptr : source->getField(name);
-    if (!(output && field.connectFrom(output)) && !(master && field.connectFrom(master))) {
-        m_in.postErrorAt(start, "there is nothing to connect to under the name " + quoted(outputName) +
-                                    ", or its type does not fit");
-    }
-    return true;
-}
-
-bool SceneReader::readPath(SoPath*& path)
-{
-    path = nullptr;
-    m_text.skipSpace();
-    const std::string_view word = m_text.readWord();
-    if (word == "NULL")
-        return true;
-    if (word != "Path" || !m_text.accept('{'))
-        return m_in.postError("Path and \"{\", or NULL");
-    SoFieldContainer* head = nullptr;
-    int count = 0;
-    bool good = readContainer(SoNode::getClassTypeId(), head) && m_in.readNumber(count);
-    if (good && head) {
-        path = new SoPath(static_cast<SoNode*>(head));
-        m_kept.add(path);
-        for (int i = 0; i < count && good; ++i) {
-            int index = 0;
-            good = m_in.readNumber(index);
-            if (good && !path->append(index)) {
-                m_in.postErrorAt(m_text.position(), "the path leads to child " + std::to_string(index) +
-                                                        ", which is not there; it is cut before it");
-                break;
-            }
-        }
-    }
-    if (!m_text.skipBlock('{', '}'))
-        m_in.postErrorAt(m_text.end(), "the closing brace of a Path is missing");
-    return good;
-}
-
-bool SceneReader::readGlobalField(SoField*& field)
-{
-    return m_text.readWord() == "GlobalField" && readGlobal(field);
-}
-
-bool SceneReader::readGlobal(SoField*& field)
-{
-    m_text.skipSpace();
-    const char* start = m_text.position();
-    if (!m_text.accept('{'))
-        return m_in.postError("\"{\" after GlobalField");
-    const SoType type = SoType::fromName(SbName(m_text.readWord()));
-    const SbName name(m_text.readWord());
-    if (type.isDerivedFrom(SoField::getClassTypeId()) && !name.isEmpty())
-        field = SoDB::createGlobalField(name, type);
-    if (!field)
-        m_in.postErrorAt(start, "expected a field type and a name that no field of another type has");
-    else if (m_text.readWord() == name.getView() && !readField(*field))
-        field = nullptr;
-    if (!m_text.skipBlock('{', '}'))
-        return m_in.postErrorAt(m_text.end(), "the closing brace of a GlobalField is missing");
-    return field != nullptr;
 }

@@ -6,6 +6,7 @@
 
 #include <vexel/base/SoType.h>
 #include <vexel/io/detail/KeptObjects.h>
+#include <vexel/io/detail/SceneConnections.h>
 
 class SoBase;
 class SoField;
@@ -47,12 +48,21 @@ private:
     };
 
     void leaveOutUnlessOf(SoType family, const char* place, SoFieldContainer*& container);
-    bool readUse(SoFieldContainer*& container, std::string_view& outputName);
+    /** What a USE in a connection refers to. */
+    struct Source {
+        SoFieldContainer* container = nullptr;
+        std::string_view outputName; ///< when it stands in one word with the name of the object
+        bool isComplete = true;
+    };
+    bool readUse(SoFieldContainer*& container);
+    /** Also of an object that is not complete: a connection leads to it, it is not contained. */
+    bool readUse(Source& source);
     bool readDefined(SoType family, std::string_view typeName, const std::string* name, SoFieldContainer*& container);
     bool readBody(SoFieldContainer& container, const char* opening);
     bool readChild(SoNode& parent);
     bool readField(SoField& field);
     bool readConnection(SoField& field);
+    bool postUndefined(const char* place, std::string_view word);
     bool readUnknown(SoUnknownNode& node, const char* opening);
     bool readDeclarations(SoUnknownNode& node);
     void skipUnknownField(const SoFieldContainer& container);
@@ -64,5 +74,6 @@ private:
     TextReader& m_text;
     std::unordered_map<std::string, Definition> m_definitions;
     KeptObjects m_kept;
+    SceneConnections m_connections;
     int m_depth = 0;
 };
