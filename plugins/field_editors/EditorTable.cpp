@@ -4,10 +4,17 @@
 #include <plugins/field_editors/editors/SingleEditor.h>
 #include <plugins/field_editors/lists/FileTextColumns.h>
 #include <plugins/field_editors/lists/TypedColumns.h>
+#include <plugins/field_editors/values/BoxWidget.h>
 #include <plugins/field_editors/values/FileTextWidget.h>
+#include <plugins/field_editors/values/MatrixWidget.h>
 #include <plugins/field_editors/values/NumbersWidget.h>
+#include <plugins/field_editors/values/PlaneWidget.h>
+#include <plugins/field_editors/values/RotationWidget.h>
 #include <vexel/fields/SoMFFloat.h>
 #include <vexel/fields/SoMFInt32.h>
+#include <vexel/fields/SoMFMatrix.h>
+#include <vexel/fields/SoMFPlane.h>
+#include <vexel/fields/SoMFRotation.h>
 #include <vexel/fields/SoMFShort.h>
 #include <vexel/fields/SoMFUInt32.h>
 #include <vexel/fields/SoMFUShort.h>
@@ -16,8 +23,13 @@
 #include <vexel/fields/SoMFVec2s.h>
 #include <vexel/fields/SoMFVec3f.h>
 #include <vexel/fields/SoMFVec4f.h>
+#include <vexel/fields/SoSFBox2f.h>
+#include <vexel/fields/SoSFBox3s.h>
 #include <vexel/fields/SoSFFloat.h>
 #include <vexel/fields/SoSFInt32.h>
+#include <vexel/fields/SoSFMatrix.h>
+#include <vexel/fields/SoSFPlane.h>
+#include <vexel/fields/SoSFRotation.h>
 #include <vexel/fields/SoSFShort.h>
 #include <vexel/fields/SoSFUInt32.h>
 #include <vexel/fields/SoSFUShort.h>
@@ -42,6 +54,19 @@ template <class Field>
 NscExtension* numbers(const Info& info)
 {
     return new SingleEditor(info, Field::getClassTypeId(), true, new NumbersWidget(NumberAccess::of<Field>()));
+}
+
+template <class Field>
+NscExtension* box(const Info& info)
+{
+    return new SingleEditor(info, Field::getClassTypeId(), true, new BoxWidget(NumberAccess::of<Field>()));
+}
+
+template <class List, class Single, class Widget>
+NscExtension* numberListWith(const Info& info)
+{
+    return new ListEditor(info, List::getClassTypeId(), true, std::make_unique<NumberColumns<List, Single>>(),
+                          new Widget);
 }
 
 template <class List, class Single>
@@ -70,6 +95,9 @@ const Row Editors[] = {
     {"MField", anyList},
     {"MFFloat", numberList<SoMFFloat, SoSFFloat>},
     {"MFInt32", numberList<SoMFInt32, SoSFInt32>},
+    {"MFMatrix", numberListWith<SoMFMatrix, SoSFMatrix, MatrixWidget>},
+    {"MFPlane", numberListWith<SoMFPlane, SoSFPlane, PlaneWidget>},
+    {"MFRotation", numberListWith<SoMFRotation, SoSFRotation, RotationWidget>},
     {"MFShort", numberList<SoMFShort, SoSFShort>},
     {"MFUInt32", numberList<SoMFUInt32, SoSFUInt32>},
     {"MFUShort", numberList<SoMFUShort, SoSFUShort>},
@@ -78,9 +106,14 @@ const Row Editors[] = {
     {"MFVec2s", numberList<SoMFVec2s, SoSFVec2s>},
     {"MFVec3f", numberList<SoMFVec3f, SoSFVec3f>},
     {"MFVec4f", numberList<SoMFVec4f, SoSFVec4f>},
+    {"SFBox2f", box<SoSFBox2f>},
+    {"SFBox3s", box<SoSFBox3s>},
     {"SFFloat", numbers<SoSFFloat>},
     {"SFInt32", numbers<SoSFInt32>},
     {"SField", anySingle},
+    {"SFMatrix", single<SoSFMatrix, MatrixWidget>},
+    {"SFPlane", single<SoSFPlane, PlaneWidget>},
+    {"SFRotation", single<SoSFRotation, RotationWidget>},
     {"SFShort", numbers<SoSFShort>},
     {"SFUInt32", numbers<SoSFUInt32>},
     {"SFUShort", numbers<SoSFUShort>},

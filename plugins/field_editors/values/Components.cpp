@@ -11,6 +11,13 @@ QStringList axisAnd(const QString& last)
 
 } // namespace
 
+QStringList boxNames(int axis)
+{
+    const QChar letter = QStringLiteral("XYZ")[axis];
+    return {QCoreApplication::translate("Components", "%1 min").arg(letter),
+            QCoreApplication::translate("Components", "%1 max").arg(letter)};
+}
+
 QStringList Components<SbRotation>::names()
 {
     return axisAnd(QCoreApplication::translate("Components", "Angle"));

@@ -14,6 +14,9 @@
 template <class Value, class = void>
 struct Components;
 
+/** What the two ends of a box along an axis are called. */
+QStringList boxNames(int axis);
+
 template <class Value>
 struct Components<Value, std::enable_if_t<std::is_arithmetic_v<Value>>> {
     using Number = Value;
@@ -68,4 +71,27 @@ struct Components<SbMatrix> {
     static QStringList names();
     static double get(const SbMatrix& matrix, int i) { return double(matrix[i / 4][i % 4]); }
     static void set(SbMatrix& matrix, int i, double number) { matrix[i / 4][i % 4] = float(number); }
+};
+
+/** Minimum and maximum along each axis. */
+template <class Value>
+struct Components<Value, std::void_t<decltype(std::declval<const Value&>().getMin())>> {
+    using Number = typename Value::Component;
+    static constexpr int Axes = std::decay_t<decltype(std::declval<const Value&>().getMin())>::Size;
+    static constexpr int Count = 2 * Axes;
+    static QStringList names()
+    {
+        QStringList names;
+        for (int axis = 0; axis < Axes; ++axis)
+            names += boxNames(axis);
+        return names;
+    }
+    static double get(const Value& box, int i) { return double((i % 2 ? box.getMax() : box.getMin())[i / 2]); }
+    static void set(Value& box, int i, double number)
+    {
+        auto lowest = box.getMin();
+        auto highest = box.getMax();
+        (i % 2 ? highest : lowest)[i / 2] = Number(number);
+        box = Value(lowest, highest);
+    }
 };

@@ -1,13 +1,12 @@
 #include "NumbersWidget.h"
 
-#include "DragLabel.h"
-#include "NumberBox.h"
+#include "NumberGrid.h"
 
-#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QSlider>
 #include <QToolButton>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -17,28 +16,27 @@ constexpr int Slider_steps = 1000;
 /** A range up to this length is stepped by a tenth. */
 constexpr double Short_range = 2;
 
-enum Column { Name_column, Box_column, Slider_column };
+QStringList labelsOf(const QStringList& names)
+{
+    return names == QStringList(QString()) ? QStringList(NumbersWidget::tr("Value")) : names;
+}
 
 } // namespace
 
 NumbersWidget::NumbersWidget(const NumberAccess& access, QWidget* parent)
     : ValueWidget(parent), m_access(access), m_value(access.create()),
-      m_problems(static_cast<std::size_t>(access.names.size()))
+      m_grid(new NumberGrid(access.kind, labelsOf(access.names)))
 {
-    auto* const grid = new QGridLayout;
-    grid->setColumnStretch(Box_column, 1);
+    include(*m_grid);
+    connect(m_grid, &NumberGrid::edited, this, &NumbersWidget::setNumber);
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->addLayout(grid);
-    for (int i = 0; i < count(); ++i) {
-        addBox(i);
-        grid->addWidget(m_labels.back(), i, Name_column);
-        grid->addWidget(m_boxes.back(), i, Box_column);
-    }
+    auto* const line = new QHBoxLayout;
+    rows->addLayout(line);
+    line->addWidget(m_grid, 1);
     if (count() == 1) {
         addSlider();
-        grid->addWidget(m_slider, 0, Slider_column);
-        grid->setColumnStretch(Slider_column, 2);
+        line->addWidget(m_slider, 1);
     } else {
         addVectorButtons();
         auto* const buttons = new QHBoxLayout;
@@ -50,32 +48,6 @@ NumbersWidget::NumbersWidget(const NumberAccess& access, QWidget* parent)
 }
 
 NumbersWidget::~NumbersWidget() = default;
-
-void NumbersWidget::addBox(int i)
-{
-    const QString name = m_access.names[i];
-    auto* const box = new NumberBox(m_access.kind);
-    auto* const label = new DragLabel(name.isEmpty() ? tr("Value") : name);
-    box->setAccessibleName(label->text());
-    m_boxes.push_back(box);
-    m_labels.push_back(label);
-    connect(box, &NumberBox::edited, this, [this, i](double number) { setNumber(i, number); });
-    connect(box, &NumberBox::gestureBegun, this, &NumbersWidget::gestureBegun);
-    connect(box, &NumberBox::gestureEnded, this, &NumbersWidget::gestureEnded);
-    connect(box, &NumberBox::problemChanged, this, [this, i](const QString& problem) {
-        m_problems[std::size_t(i)] = problem;
-        const auto first =
-            std::find_if(m_problems.begin(), m_problems.end(), [](const auto& p) { return !p.isEmpty(); });
-        emit problemChanged(first == m_problems.end() ? QString() : *first);
-    });
-    auto start = std::make_shared<double>();
-    connect(label, &DragLabel::dragBegun, this, [this, box, start] {
-        *start = box->value();
-        emit gestureBegun();
-    });
-    connect(label, &DragLabel::dragged, box, [box, start](int pixels) { box->dragTo(*start, pixels); });
-    connect(label, &DragLabel::dragEnded, this, &NumbersWidget::gestureEnded);
-}
 
 void NumbersWidget::addSlider()
 {
@@ -120,7 +92,7 @@ void NumbersWidget::showNumbers()
     for (int i = 0; i < count(); ++i) {
         const double number = m_access.get(*m_value, i);
         squares += number * number;
-        m_boxes[std::size_t(i)]->setValue(number);
+        m_grid->setValue(i, number);
     }
     if (m_slider) {
         const double part = (m_access.get(*m_value, 0) - m_range.lowest) / (m_range.highest - m_range.lowest);
@@ -133,10 +105,7 @@ void NumbersWidget::showNumbers()
 
 void NumbersWidget::setReadOnly(bool isReadOnly)
 {
-    for (NumberBox* box : m_boxes)
-        box->setReadOnly(isReadOnly);
-    for (DragLabel* label : m_labels)
-        label->setReadOnly(isReadOnly);
+    m_grid->setReadOnly(isReadOnly);
     if (m_slider)
         m_slider->setEnabled(!isReadOnly);
     if (m_link)
@@ -147,8 +116,7 @@ void NumbersWidget::setReadOnly(bool isReadOnly)
 void NumbersWidget::setRange(const ValueRange* range)
 {
     const bool isShort = range && !m_access.kind.isWhole && range->highest - range->lowest <= Short_range;
-    for (NumberBox* box : m_boxes)
-        box->setStep(isShort ? 0.1 : 1);
+    m_grid->setStep(isShort ? 0.1 : 1);
     if (range)
         m_range = *range;
     if (m_slider) {

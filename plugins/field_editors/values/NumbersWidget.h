@@ -6,8 +6,7 @@
 #include <vector>
 #include <vexel/fields/SoField.h>
 
-class DragLabel;
-class NumberBox;
+class NumberGrid;
 class QSlider;
 class QToolButton;
 
@@ -49,7 +48,6 @@ public:
     void setRange(const ValueRange* range) override;
 
 private:
-    void addBox(int i);
     void addSlider();
     void addVectorButtons();
     void setNumber(int i, double number);
@@ -60,9 +58,7 @@ private:
 
     NumberAccess m_access;
     std::unique_ptr<SoField> m_value;
-    std::vector<NumberBox*> m_boxes;
-    std::vector<DragLabel*> m_labels;
-    std::vector<QString> m_problems;   ///< one for each box
+    NumberGrid* m_grid;
     std::vector<double> m_proportions; ///< of linked components, kept while one of them passes through zero
     QSlider* m_slider = nullptr;
     QToolButton* m_link = nullptr;

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QWidget>
+#include <map>
 
+class NumberGrid;
 class SoField;
 
 /** The range that a number is known to lie in. */
@@ -35,4 +37,11 @@ signals:
     void gestureCancelled();
     /** Why what the user typed is no value, in a sentence; empty: it is one again. */
     void problemChanged(const QString& problem);
+
+protected:
+    /** Passes the grid's gestures and problems on. */
+    void include(NumberGrid& grid);
+
+private:
+    std::map<const NumberGrid*, QString> m_problems;
 };

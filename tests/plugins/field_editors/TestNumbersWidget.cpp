@@ -1,71 +1,20 @@
+#include "WidgetFixture.h"
+
 #include <plugins/field_editors/values/DragLabel.h>
-#include <plugins/field_editors/values/NumberBox.h>
 #include <plugins/field_editors/values/NumbersWidget.h>
 #include <vexel/fields/SoSFFloat.h>
 #include <vexel/fields/SoSFShort.h>
 #include <vexel/fields/SoSFVec3f.h>
-#include <vexel/io/SoDB.h>
 
-#include <QApplication>
-#include <QLineEdit>
-#include <QMouseEvent>
-#include <QSignalSpy>
 #include <QSlider>
-#include <QTest>
-#include <QToolButton>
-#include <gtest/gtest.h>
 
 namespace {
 
 template <class Field>
-class Numbers {
+class Numbers : public ShownWidget<NumbersWidget, Field> {
 public:
-    Numbers() : widget(NumberAccess::of<Field>())
-    {
-        QObject::connect(&widget, &ValueWidget::edited, [this](const SoField& value) {
-            ++edits;
-            last.copyFrom(value);
-        });
-        QObject::connect(&widget, &ValueWidget::problemChanged, [this](const QString& text) { problem = text; });
-    }
-    void show(const typename Field::ValueType& value)
-    {
-        Field field;
-        field.setValue(value);
-        widget.showValue(field);
-        widget.show();
-        widget.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&widget));
-    }
-    NumberBox* box(int i) { return widget.template findChildren<NumberBox*>()[i]; }
-    QString text(int i) { return box(i)->template findChild<QLineEdit*>()->text(); }
-    void type(int i, const QString& text)
-    {
-        box(i)->setFocus();
-        box(i)->selectAll();
-        QTest::keyClicks(box(i), text);
-    }
-    QToolButton* button(const QString& text)
-    {
-        for (QToolButton* each : widget.template findChildren<QToolButton*>()) {
-            if (each->text() == text)
-                return each;
-        }
-        return nullptr;
-    }
-
-    NumbersWidget widget;
-    Field last;
-    int edits = 0;
-    QString problem;
+    Numbers() : ShownWidget<NumbersWidget, Field>(NumberAccess::of<Field>()) {}
 };
-
-/** Moves the mouse with its left button held. */
-void moveMouse(QWidget& widget, const QPoint& place)
-{
-    QMouseEvent event(QEvent::MouseMove, place, widget.mapToGlobal(place), Qt::NoButton, Qt::LeftButton, {});
-    QApplication::sendEvent(&widget, &event);
-}
 
 class NumbersWidgetTest : public testing::Test {
 protected:
