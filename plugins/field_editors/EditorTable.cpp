@@ -73,7 +73,7 @@ template <class List, class Single>
 NscExtension* numberList(const Info& info)
 {
     return new ListEditor(info, List::getClassTypeId(), true, std::make_unique<NumberColumns<List, Single>>(),
-                          new NumbersWidget(NumberAccess::of<Single>()));
+                          new NumbersWidget(NumberAccess::of<Single>(), Qt::Horizontal));
 }
 
 NscExtension* anySingle(const Info& info)

@@ -72,7 +72,7 @@ void ListEditor::showValue()
         return;
     const int row = m_table->currentRow();
     const bool hasValue = row >= 0 && row < num;
-    m_values->setEnabled(hasValue);
+    m_values->setVisible(hasValue);
     m_values->setReadOnly(!m_binding.isEditable());
     if (hasValue)
         m_values->showValue(*m_columns->single(*list(), row));

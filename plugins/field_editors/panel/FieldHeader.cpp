@@ -48,6 +48,8 @@ FieldHeader::FieldHeader(QWidget* parent)
     bold.setBold(true);
     m_name->setFont(bold);
     m_name->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_owner->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long name does not widen the panel
+    m_state->setEnabled(false);                                           // it is no value
     m_source->setWordWrap(true);
     m_cut->setIcon(QIcon(QStringLiteral(":/Field_editor_icons/disconnect.png")));
     m_cut->setText(tr("Cut"));
@@ -73,8 +75,10 @@ FieldHeader::FieldHeader(QWidget* parent)
     auto* const rows = new QVBoxLayout(this);
     rows->setSpacing(2);
     rows->addLayout(title);
-    rows->addWidget(m_owner);
-    rows->addWidget(m_state);
+    auto* const facts = new QHBoxLayout;
+    facts->addWidget(m_owner, 1);
+    facts->addWidget(m_state);
+    rows->addLayout(facts);
     rows->addWidget(m_connection);
     rows->addWidget(m_problem);
     connect(&m_binding, &FieldBinding::fieldChanged, this, &FieldHeader::showField);

@@ -2,8 +2,8 @@
 
 #include <QWidget>
 #include <plugins/field_editors/values/NumberText.h>
-#include <vexel/base/SbVec3f.h>
 #include <vector>
+#include <vexel/base/SbVec3f.h>
 
 class DragLabel;
 class NumberBox;

@@ -23,9 +23,9 @@ QStringList labelsOf(const QStringList& names)
 
 } // namespace
 
-NumbersWidget::NumbersWidget(const NumberAccess& access, QWidget* parent)
+NumbersWidget::NumbersWidget(const NumberAccess& access, Qt::Orientation orientation, QWidget* parent)
     : ValueWidget(parent), m_access(access), m_value(access.create()),
-      m_grid(new NumberGrid(access.kind, labelsOf(access.names)))
+      m_grid(new NumberGrid(access.kind, labelsOf(access.names), orientation == Qt::Vertical ? 1 : access.names.size()))
 {
     include(*m_grid);
     connect(m_grid, &NumberGrid::edited, this, &NumbersWidget::setNumber);

@@ -40,7 +40,9 @@ struct NumberAccess {
 class NumbersWidget : public ValueWidget {
     Q_OBJECT
 public:
-    explicit NumbersWidget(const NumberAccess& access, QWidget* parent = nullptr);
+    /** @param orientation  how the components of a vector stand */
+    explicit NumbersWidget(const NumberAccess& access, Qt::Orientation orientation = Qt::Vertical,
+                           QWidget* parent = nullptr);
     ~NumbersWidget() override;
 
     void showValue(const SoField& value) override;

@@ -20,7 +20,6 @@ private:
     void showNumbers(const SbVec3f& normal);
 
     SoSFPlane m_value;
-    NumberGrid* m_normal;
-    NumberGrid* m_distance;
+    NumberGrid* m_grid; ///< normal, distance
     QToolButton* m_flip;
 };

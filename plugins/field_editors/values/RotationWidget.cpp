@@ -5,7 +5,7 @@
 #include "NumberGrid.h"
 #include "RotationHandle.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -24,7 +24,7 @@ NumberGrid* newGrid(const QStringList& names)
 
 RotationWidget::RotationWidget(QWidget* parent)
     : ValueWidget(parent), m_axis(newGrid({QStringLiteral("X"), QStringLiteral("Y"), QStringLiteral("Z")})),
-      m_angle(newGrid({tr("Angle in degrees"), tr("in radians")})),
+      m_angle(newGrid({tr("Angle in °"), tr("in rad")})),
       m_euler(newGrid({QStringLiteral("X°"), QStringLiteral("Y°"), QStringLiteral("Z°")})), m_handle(new RotationHandle)
 {
     for (NumberGrid* grid : {m_axis, m_angle, m_euler})
@@ -37,16 +37,20 @@ RotationWidget::RotationWidget(QWidget* parent)
     connect(m_handle, &RotationHandle::rotated, this, &RotationWidget::take);
     connect(m_handle, &RotationHandle::dragBegun, this, &RotationWidget::gestureBegun);
     connect(m_handle, &RotationHandle::dragEnded, this, &RotationWidget::gestureEnded);
-    auto* const grid = new QGridLayout;
-    grid->addWidget(new QLabel(tr("Axis")), 0, 0);
-    grid->addWidget(new QLabel(tr("About X, then Y, then Z")), 0, 1);
-    grid->addWidget(m_axis, 1, 0);
-    grid->addWidget(m_euler, 1, 1);
-    auto* const rows = new QVBoxLayout(this);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->addLayout(grid);
-    rows->addWidget(m_angle);
-    rows->addWidget(m_handle, 0, Qt::AlignHCenter);
+    auto* const left = new QVBoxLayout;
+    left->addWidget(new QLabel(tr("Axis and angle")));
+    left->addWidget(m_axis);
+    left->addWidget(m_angle);
+    left->addStretch();
+    auto* const right = new QVBoxLayout;
+    right->addWidget(new QLabel(tr("About X, then Y, then Z")));
+    right->addWidget(m_euler);
+    right->addWidget(m_handle, 0, Qt::AlignHCenter);
+    right->addStretch();
+    auto* const columns = new QHBoxLayout(this);
+    columns->setContentsMargins(0, 0, 0, 0);
+    columns->addLayout(left, 1);
+    columns->addLayout(right, 1);
 }
 
 void RotationWidget::takeAxis()

@@ -9,7 +9,7 @@
 
 namespace {
 
-enum Box { AxisX, AxisY, AxisZ, EulerX, EulerY, EulerZ, Degrees, Radians };
+enum Box { AxisX, AxisY, AxisZ, Degrees, Radians, EulerX, EulerY, EulerZ };
 
 const float Half_turn = float(std::acos(-1.0));
 
