@@ -28,9 +28,10 @@ public:
     const Info& getInfo() const { return m_info; }
 
     /** Gives it an extension that it controls, for example the editor of one field type; called before activate(). The
-     * controlled extension lives at least as long as this one. By default nothing happens. */
+     * controlled extension is activated already and lives longer than this one. By default nothing happens. */
     virtual void addControlledExtension(NscExtension* extension);
-    /** Called once, after the extensions that it controls were activated. */
+    /** Called once, after the extensions that it controls were activated. What it throws is reported, and the extension
+     * is deleted. */
     virtual void activate() = 0;
 
     /** The user switched its view toggle on or off. */

@@ -3,6 +3,7 @@
 #include <nodescope/preferences/ReadableColor.h>
 
 #include <QApplication>
+#include <QDateTime>
 #include <QPalette>
 #include <algorithm>
 
@@ -17,12 +18,20 @@ void MessageLog::add(Kind kind, const QString& source, const QString& text)
     const std::lock_guard lock(m_mutex);
     if (m_waiting.empty())
         QMetaObject::invokeMethod(this, &MessageLog::takeOver, Qt::QueuedConnection);
-    const QTime time = QTime::currentTime();
-    for (const QString& line : text.split('\n', Qt::SkipEmptyParts)) {
-        if (m_waiting.size() == std::size_t(Limit))
-            m_waiting.pop_front();
-        m_waiting.push_back({time, kind, source, line});
+    const qint64 time = QDateTime::currentMSecsSinceEpoch();
+    if (!text.contains('\n')) { // as nearly all, of which there may be many
+        wait({time, kind, source, text});
+        return;
     }
+    for (const QString& line : text.split('\n', Qt::SkipEmptyParts))
+        wait({time, kind, source, line});
+}
+
+void MessageLog::wait(Line line)
+{
+    if (m_waiting.size() == std::size_t(Limit))
+        m_waiting.pop_front();
+    m_waiting.push_back(std::move(line));
 }
 
 void MessageLog::takeOver()
@@ -75,7 +84,7 @@ QString MessageLog::cellText(const Line& line, int column) const
 {
     switch (column) {
     case TimeColumn:
-        return line.time.toString(QStringLiteral("HH:mm:ss"));
+        return QDateTime::fromMSecsSinceEpoch(line.time).toString(QStringLiteral("HH:mm:ss"));
     case KindColumn:
         return line.kind == Kind::Problem ? tr("Problem") : tr("Note");
     case SourceColumn:

@@ -3,7 +3,6 @@
 #include <nodescope/NodescopeApi.h>
 
 #include <QAbstractTableModel>
-#include <QTime>
 #include <deque>
 #include <mutex>
 
@@ -33,12 +32,13 @@ public:
 
 private:
     struct Line {
-        QTime time;
+        qint64 time; ///< milliseconds since the start of 1970
         Kind kind;
         QString source;
         QString text;
     };
 
+    void wait(Line line);
     QString cellText(const Line& line, int column) const;
 
     std::deque<Line> m_lines;

@@ -142,6 +142,38 @@ TEST_F(PluginTest, DocksAndToolBarsOfExtensionsComeBackWhereTheUserLeftThem)
     EXPECT_EQ(frame().dockWidgetArea(dock), Qt::LeftDockWidgetArea);
 }
 
+TEST_F(PluginTest, WhatAStoredLayoutDoesNotKnowStandsWhereItsExtensionPutsIt)
+{
+    start(QByteArray());
+    closeWindow();
+    start(One_of_everything);
+    auto* const dock = frame().findChild<QDockWidget*>("Loaded Dock");
+    auto* const bar = frame().findChild<QToolBar*>("Loaded Bar");
+    EXPECT_TRUE(dock->isVisible());
+    EXPECT_FALSE(dock->isFloating());
+    EXPECT_EQ(frame().dockWidgetArea(dock), Qt::RightDockWidgetArea);
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_EQ(frame().toolBarArea(bar), Qt::TopToolBarArea);
+}
+
+TEST_F(PluginTest, ASessionOnAHostLeavesThePlaceOfTheTreeToTheNextOneWithout)
+{
+    const auto startAlone = [] {
+        SoPreferences::setValue("VXL_DISABLE_MAINLOOP", "1");
+        _startStandalone(0, nullptr);
+        SoPreferences::removeValue("VXL_DISABLE_MAINLOOP");
+        return frame().findChild<QDockWidget*>("dockMainWin");
+    };
+    QDockWidget* tree = startAlone();
+    frame().addDockWidget(Qt::RightDockWidgetArea, tree);
+    closeWindow();
+    start(QByteArray());
+    closeWindow();
+    tree = startAlone();
+    EXPECT_EQ(frame().dockWidgetArea(tree), Qt::RightDockWidgetArea);
+    EXPECT_FALSE(tree->isHidden());
+}
+
 TEST_F(PluginTest, ADockThatComesLateIsPlacedToo)
 {
     start(QByteArray());
