@@ -165,5 +165,6 @@ TEST_F(ServicesTest, RedrawWhenTheSelectionNodeChanges)
     services().setSelection(nullptr);
     EXPECT_EQ(other->getRefCount(), 1);
     other->unref();
+    selection->deselectAll();
     selection->unref();
 }
