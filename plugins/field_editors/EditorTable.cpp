@@ -4,18 +4,24 @@
 #include <plugins/field_editors/editors/SingleEditor.h>
 #include <plugins/field_editors/lists/FileTextColumns.h>
 #include <plugins/field_editors/lists/TypedColumns.h>
+#include <plugins/field_editors/values/BitMaskWidget.h>
+#include <plugins/field_editors/values/BoolWidget.h>
 #include <plugins/field_editors/values/BoxWidget.h>
+#include <plugins/field_editors/values/EnumWidget.h>
 #include <plugins/field_editors/values/FileTextWidget.h>
 #include <plugins/field_editors/values/MatrixWidget.h>
+#include <plugins/field_editors/values/NameWidget.h>
 #include <plugins/field_editors/values/NumbersWidget.h>
 #include <plugins/field_editors/values/PlaneWidget.h>
 #include <plugins/field_editors/values/RotationWidget.h>
+#include <plugins/field_editors/values/StringWidget.h>
 #include <vexel/fields/SoMFFloat.h>
 #include <vexel/fields/SoMFInt32.h>
 #include <vexel/fields/SoMFMatrix.h>
 #include <vexel/fields/SoMFPlane.h>
 #include <vexel/fields/SoMFRotation.h>
 #include <vexel/fields/SoMFShort.h>
+#include <vexel/fields/SoMFString.h>
 #include <vexel/fields/SoMFUInt32.h>
 #include <vexel/fields/SoMFUShort.h>
 #include <vexel/fields/SoMFVec2f.h>
@@ -23,14 +29,19 @@
 #include <vexel/fields/SoMFVec2s.h>
 #include <vexel/fields/SoMFVec3f.h>
 #include <vexel/fields/SoMFVec4f.h>
+#include <vexel/fields/SoSFBitMask.h>
+#include <vexel/fields/SoSFBool.h>
 #include <vexel/fields/SoSFBox2f.h>
 #include <vexel/fields/SoSFBox3s.h>
+#include <vexel/fields/SoSFEnum.h>
 #include <vexel/fields/SoSFFloat.h>
 #include <vexel/fields/SoSFInt32.h>
 #include <vexel/fields/SoSFMatrix.h>
+#include <vexel/fields/SoSFName.h>
 #include <vexel/fields/SoSFPlane.h>
 #include <vexel/fields/SoSFRotation.h>
 #include <vexel/fields/SoSFShort.h>
+#include <vexel/fields/SoSFString.h>
 #include <vexel/fields/SoSFUInt32.h>
 #include <vexel/fields/SoSFUShort.h>
 #include <vexel/fields/SoSFVec2f.h>
@@ -76,6 +87,12 @@ NscExtension* numberList(const Info& info)
                           new NumbersWidget(NumberAccess::of<Single>(), Qt::Horizontal));
 }
 
+NscExtension* stringList(const Info& info)
+{
+    return new ListEditor(info, SoMFString::getClassTypeId(), true,
+                          std::make_unique<StringColumns<SoMFString, SoSFString>>(), new StringWidget);
+}
+
 NscExtension* anySingle(const Info& info)
 {
     return new SingleEditor(info, SoSField::getClassTypeId(), false, new FileTextWidget);
@@ -99,6 +116,7 @@ const Row Editors[] = {
     {"MFPlane", numberListWith<SoMFPlane, SoSFPlane, PlaneWidget>},
     {"MFRotation", numberListWith<SoMFRotation, SoSFRotation, RotationWidget>},
     {"MFShort", numberList<SoMFShort, SoSFShort>},
+    {"MFString", stringList},
     {"MFUInt32", numberList<SoMFUInt32, SoSFUInt32>},
     {"MFUShort", numberList<SoMFUShort, SoSFUShort>},
     {"MFVec2f", numberList<SoMFVec2f, SoSFVec2f>},
@@ -106,15 +124,20 @@ const Row Editors[] = {
     {"MFVec2s", numberList<SoMFVec2s, SoSFVec2s>},
     {"MFVec3f", numberList<SoMFVec3f, SoSFVec3f>},
     {"MFVec4f", numberList<SoMFVec4f, SoSFVec4f>},
+    {"SFBitMask", single<SoSFBitMask, BitMaskWidget>},
+    {"SFBool", single<SoSFBool, BoolWidget>},
     {"SFBox2f", box<SoSFBox2f>},
     {"SFBox3s", box<SoSFBox3s>},
+    {"SFEnum", single<SoSFEnum, EnumWidget>},
     {"SFFloat", numbers<SoSFFloat>},
     {"SFInt32", numbers<SoSFInt32>},
     {"SField", anySingle},
     {"SFMatrix", single<SoSFMatrix, MatrixWidget>},
+    {"SFName", single<SoSFName, NameWidget>},
     {"SFPlane", single<SoSFPlane, PlaneWidget>},
     {"SFRotation", single<SoSFRotation, RotationWidget>},
     {"SFShort", numbers<SoSFShort>},
+    {"SFString", single<SoSFString, StringWidget>},
     {"SFUInt32", numbers<SoSFUInt32>},
     {"SFUShort", numbers<SoSFUShort>},
     {"SFVec2f", numbers<SoSFVec2f>},

@@ -20,7 +20,7 @@ ListEditor::ListEditor(Info info, SoType type, bool isExact, std::unique_ptr<Lis
 {
     layOut();
     connect(m_table, &ListTable::problemChanged, m_problem, &ProblemLine::setProblem);
-    connect(m_table, &ListTable::currentRowChanged, this, &ListEditor::showValue);
+    connect(m_table, &ListTable::currentRowChanged, this, &ListEditor::showRow);
     connect(&m_binding, &FieldBinding::fieldChanged, this, &ListEditor::showField);
     connect(&m_binding, &FieldBinding::valueChanged, this, &ListEditor::showValue);
     if (!m_values)
@@ -61,6 +61,13 @@ void ListEditor::showField()
     m_problem->setProblem(QString());
     if (m_values && list())
         m_values->setRange(KnownRanges::of(*list()));
+    showRow();
+}
+
+void ListEditor::showRow()
+{
+    if (m_values)
+        m_values->forgetInput();
     showValue();
 }
 

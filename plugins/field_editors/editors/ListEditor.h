@@ -30,6 +30,7 @@ public:
 private:
     void layOut();
     void showField();
+    void showRow();
     void showValue();
     void takeValue(const SoField& value);
     const SoMField* list() const { return static_cast<const SoMField*>(m_binding.field()); }

@@ -39,6 +39,7 @@ void SingleEditor::activate()
 
 void SingleEditor::showField()
 {
+    m_values->forgetInput();
     m_problem->setProblem(QString());
     if (const SoField* const field = m_binding.field())
         m_values->setRange(KnownRanges::of(*field));

@@ -1,6 +1,7 @@
 #include "Marking.h"
 
 #include <QPalette>
+#include <QVariant>
 #include <QWidget>
 
 namespace {
@@ -20,13 +21,22 @@ QColor mix(const QColor& a, const QColor& b, double part)
 void Marking::set(QWidget& widget, const QString& problem)
 {
     widget.setToolTip(problem);
-    if (problem.isEmpty()) {
-        widget.setPalette(QPalette());
+    widget.setPalette(QPalette());
+    const bool isReadOnly = widget.property("readOnly").toBool();
+    if (problem.isEmpty() && !isReadOnly)
         return;
-    }
     QPalette palette = widget.palette();
-    palette.setColor(QPalette::Base, mix(palette.color(QPalette::Base), Warning, Tint));
+    const QColor ground = palette.color(isReadOnly ? QPalette::Window : QPalette::Base);
+    palette.setColor(QPalette::Base, problem.isEmpty() ? ground : mix(ground, Warning, Tint));
     widget.setPalette(palette);
+}
+
+void Marking::setReadOnly(QWidget& widget, bool isReadOnly)
+{
+    if (widget.property("readOnly").toBool() == isReadOnly)
+        return;
+    widget.setProperty("readOnly", isReadOnly);
+    set(widget, QString());
 }
 
 void Marking::setWarning(QWidget& label)

@@ -6,6 +6,8 @@
 
 void ValueWidget::setRange(const ValueRange*) {}
 
+void ValueWidget::forgetInput() {}
+
 void ValueWidget::include(NumberGrid& grid)
 {
     connect(&grid, &NumberGrid::gestureBegun, this, &ValueWidget::gestureBegun);

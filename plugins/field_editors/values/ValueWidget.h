@@ -26,6 +26,9 @@ public:
     virtual void setReadOnly(bool isReadOnly) = 0;
     /** Null: not known. By default without effect. */
     virtual void setRange(const ValueRange* range);
+    /** What the user is typing or choosing is dropped, because another value than the one so far is to be shown; what
+     * was given back stays. By default without effect. */
+    virtual void forgetInput();
 
 signals:
     /** The user made this value, of the same type as those shown. */
