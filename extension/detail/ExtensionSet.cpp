@@ -6,6 +6,7 @@
 #include <extension/NscPlugin.h>
 
 #include <algorithm>
+#include <set>
 
 namespace {
 
@@ -113,9 +114,10 @@ void ExtensionSet::createOne(const Wanted& wanted)
         return;
     }
     thrown = exceptionOf([&] {
+        std::set<const Wanted*> connected;
         for (const Wanted* each : wanted.controlled) {
             const auto controlled = m_byName.find(keyOf(each->name));
-            if (controlled != m_byName.end() && controlled->second)
+            if (controlled != m_byName.end() && controlled->second && connected.insert(each).second)
                 extension->addControlledExtension(controlled->second);
         }
         extension->activate();

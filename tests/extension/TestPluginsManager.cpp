@@ -29,7 +29,7 @@ TEST_F(PluginsManagerTest, ReleasingDeletesTheLastCreatedFirstAndThePlugInsAtThe
 TEST_F(PluginsManagerTest, AnExtensionNamedTwiceIsCreatedOnce)
 {
     EXPECT_TRUE(read(configuration(library("extension_test_Plugin"),
-                                   profile(active("A", {"C"}) + active("B", {"C"}) + active("A", {"D"})))));
+                                   profile(active("A", {"C", "C"}) + active("B", {"C"}) + active("A", {"D", "C"})))));
     EXPECT_EQ(log(), "create C\nactivate C\ncreate D\nactivate D\ncreate A\nadd C to A\nadd D to A\nactivate A\n"
                      "create B\nadd C to B\nactivate B\n");
 }

@@ -200,6 +200,14 @@ TEST_F(ShellTest, AnExtensionHasOnePreferencePage)
     EXPECT_TRUE(shell().getPreferencePages().empty());
 }
 
+TEST_F(ShellTest, APageThatItsOwnerDeletedIsNotShown)
+{
+    auto page = std::make_unique<QWidget>();
+    shell().addPreferencePage(&m_extension, page.get(), "load()", "save()");
+    page.reset();
+    EXPECT_FALSE(shell().getPreferencePages().begin()->second.page);
+}
+
 TEST_F(ShellTest, TheStatusBarShowsMessagesAndWidgets)
 {
     QStatusBar& bar = *frame().statusBar();
