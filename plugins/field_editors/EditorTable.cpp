@@ -7,14 +7,17 @@
 #include <plugins/field_editors/values/BitMaskWidget.h>
 #include <plugins/field_editors/values/BoolWidget.h>
 #include <plugins/field_editors/values/BoxWidget.h>
+#include <plugins/field_editors/values/ColorWidget.h>
 #include <plugins/field_editors/values/EnumWidget.h>
 #include <plugins/field_editors/values/FileTextWidget.h>
+#include <plugins/field_editors/values/ImageWidget.h>
 #include <plugins/field_editors/values/MatrixWidget.h>
 #include <plugins/field_editors/values/NameWidget.h>
 #include <plugins/field_editors/values/NumbersWidget.h>
 #include <plugins/field_editors/values/PlaneWidget.h>
 #include <plugins/field_editors/values/RotationWidget.h>
 #include <plugins/field_editors/values/StringWidget.h>
+#include <vexel/fields/SoMFColor.h>
 #include <vexel/fields/SoMFFloat.h>
 #include <vexel/fields/SoMFInt32.h>
 #include <vexel/fields/SoMFMatrix.h>
@@ -33,8 +36,10 @@
 #include <vexel/fields/SoSFBool.h>
 #include <vexel/fields/SoSFBox2f.h>
 #include <vexel/fields/SoSFBox3s.h>
+#include <vexel/fields/SoSFColor.h>
 #include <vexel/fields/SoSFEnum.h>
 #include <vexel/fields/SoSFFloat.h>
+#include <vexel/fields/SoSFImage.h>
 #include <vexel/fields/SoSFInt32.h>
 #include <vexel/fields/SoSFMatrix.h>
 #include <vexel/fields/SoSFName.h>
@@ -109,6 +114,7 @@ struct Row {
 };
 
 const Row Editors[] = {
+    {"MFColor", numberListWith<SoMFColor, SoSFColor, ColorWidget>},
     {"MField", anyList},
     {"MFFloat", numberList<SoMFFloat, SoSFFloat>},
     {"MFInt32", numberList<SoMFInt32, SoSFInt32>},
@@ -128,8 +134,10 @@ const Row Editors[] = {
     {"SFBool", single<SoSFBool, BoolWidget>},
     {"SFBox2f", box<SoSFBox2f>},
     {"SFBox3s", box<SoSFBox3s>},
+    {"SFColor", single<SoSFColor, ColorWidget>},
     {"SFEnum", single<SoSFEnum, EnumWidget>},
     {"SFFloat", numbers<SoSFFloat>},
+    {"SFImage", single<SoSFImage, ImageWidget>},
     {"SFInt32", numbers<SoSFInt32>},
     {"SField", anySingle},
     {"SFMatrix", single<SoSFMatrix, MatrixWidget>},

@@ -17,6 +17,7 @@ BitMaskWidget::BitMaskWidget(QWidget* parent)
     buttons->addWidget(m_all);
     buttons->addWidget(m_none);
     buttons->addStretch();
+    m_boxes->setSpacing(2);
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addLayout(m_boxes);

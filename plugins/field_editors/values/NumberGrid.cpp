@@ -1,6 +1,7 @@
 #include "NumberGrid.h"
 
 #include "DragLabel.h"
+#include "Marking.h"
 #include "NumberBox.h"
 
 #include <QGridLayout>
@@ -78,10 +79,22 @@ void NumberGrid::setStep(double step)
         box->setStep(step);
 }
 
+void NumberGrid::setNameWidth(int width)
+{
+    static_cast<QGridLayout*>(layout())->setColumnMinimumWidth(0, width);
+}
+
+void NumberGrid::addBehind(int i, QWidget& widget)
+{
+    auto* const grid = static_cast<QGridLayout*>(layout());
+    grid->addWidget(&widget, i, 2);
+    grid->setColumnStretch(2, 2);
+}
+
 void NumberGrid::setReadOnly(bool isReadOnly)
 {
     for (NumberBox* box : m_boxes)
-        box->setReadOnly(isReadOnly);
+        Marking::setReadOnly(*box, isReadOnly);
     for (DragLabel* label : m_labels) {
         if (label)
             label->setReadOnly(isReadOnly);

@@ -26,6 +26,13 @@ public:
     void setVector(const SbVec3f& vector);
     ///@}
     void setStep(double step);
+    /** For a grid with one column. */
+    ///@{
+    /** The place that names take at least, so that grids below each other are aligned. */
+    void setNameWidth(int width);
+    /** Puts a widget behind a number; those of a grid take two thirds of its width. */
+    void addBehind(int i, QWidget& widget);
+    ///@}
     void setReadOnly(bool isReadOnly);
 
 signals:

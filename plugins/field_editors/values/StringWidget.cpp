@@ -53,6 +53,8 @@ void StringWidget::setReadOnly(bool isReadOnly)
 
 void StringWidget::forgetInput()
 {
+    if (m_isTyping)
+        emit gestureEnded();
     m_isTyping = false;
 }
 
