@@ -27,6 +27,12 @@ void MessageLog::add(Kind kind, const QString& source, const QString& text)
         wait({time, kind, source, line});
 }
 
+void MessageLog::add(Kind kind, const QString& message)
+{
+    const int colon = message.indexOf(QLatin1String(": "));
+    add(kind, message.left(std::max(colon, 0)), message.mid(colon < 0 ? 0 : colon + 2));
+}
+
 void MessageLog::wait(Line line)
 {
     if (m_waiting.size() == std::size_t(Limit))

@@ -19,6 +19,8 @@ public:
 
     /** Adds the lines of a text, which appear when the event loop has time. May be called from any thread. */
     void add(Kind kind, const QString& source, const QString& text);
+    /** The same for a message of the form "source: text". */
+    void add(Kind kind, const QString& message);
     /** Makes lines appear now that were added. */
     void takeOver();
     void clear();

@@ -1,6 +1,7 @@
 #include "ReadErrors.h"
 #include "FileMessages.h"
 
+#include <nodescope/panels/MessagePanel.h>
 #include <vexel/base/SoReadError.h>
 
 namespace {
@@ -38,11 +39,15 @@ ReadErrors::~ReadErrors()
     SoReadError::setHandlerCallback(m_previousHandler, m_previousData);
 }
 
-void ReadErrors::show(QWidget* parent) const
+void ReadErrors::show(QWidget* window) const
 {
     if (m_messages.isEmpty())
         return;
+    if (auto* const panel = window->findChild<MessagePanel*>()) {
+        for (const QString& message : m_messages)
+            panel->log().add(MessageLog::Kind::Problem, message);
+    }
     const QString beginning = beginningOf(m_messages);
     const QString all = m_messages.join('\n');
-    FileMessages::showReadErrors(parent, beginning, beginning == all ? QString() : all);
+    FileMessages::showReadErrors(window, beginning, beginning == all ? QString() : all);
 }

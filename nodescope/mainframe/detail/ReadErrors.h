@@ -13,8 +13,9 @@ public:
     ReadErrors(const ReadErrors&) = delete;
     ReadErrors& operator=(const ReadErrors&) = delete;
 
-    /** Shows a warning with all messages, the first ones at once and the others on demand; nothing without messages. */
-    void show(QWidget* parent) const;
+    /** Lists all in the window's messages, and shows a warning with them, the first ones at once and the others on
+     * demand; nothing without messages. */
+    void show(QWidget* window) const;
 
 private:
     using Handler = void(const SoError* error, void* data);

@@ -4,7 +4,6 @@
 #include <vexel/base/SoDebugError.h>
 #include <vexel/base/SoReadError.h>
 
-#include <algorithm>
 #include <deque>
 #include <mutex>
 
@@ -19,24 +18,17 @@ struct Link {
 
 std::mutex mutex; ///< guards all links: errors may come from any thread
 
-/** "source: text" in its two halves. */
-void add(MessageLog& log, MessageLog::Kind kind, const QString& message)
-{
-    const int colon = message.indexOf(QLatin1String(": "));
-    log.add(kind, message.left(std::max(colon, 0)), message.mid(colon < 0 ? 0 : colon + 2));
-}
-
 void write(MessageLog& log, const SoDebugError& error)
 {
     static constexpr const char* Titles[] = {"Error in ", "Warning in ", "Information from "}; // by severity
     const bool isNote = error.getSeverity() == SoDebugError::INFO;
-    add(log, isNote ? MessageLog::Kind::Note : MessageLog::Kind::Problem,
-        error.getDebugString().toQString().mid(int(qstrlen(Titles[error.getSeverity()]))));
+    log.add(isNote ? MessageLog::Kind::Note : MessageLog::Kind::Problem,
+            error.getDebugString().toQString().mid(int(qstrlen(Titles[error.getSeverity()]))));
 }
 
 void write(MessageLog& log, const SoReadError& error)
 {
-    add(log, MessageLog::Kind::Problem, error.getDebugString().toQString());
+    log.add(MessageLog::Kind::Problem, error.getDebugString().toQString());
 }
 
 void write(MessageLog& log, const SoError& error)

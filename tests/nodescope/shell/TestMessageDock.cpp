@@ -71,6 +71,19 @@ TEST_F(MessageDockTest, SaysThatThereIsOneProblem)
     QTRY_COMPARE(frame().statusBar()->currentMessage(), QString("One problem with plug-ins: see Messages"));
 }
 
+TEST_F(MessageDockTest, KeepsWhatIsWrongInAFileAfterItsWarning)
+{
+    start(QByteArray());
+    ModalAnswers answers;
+    answers.expectBox("NodescopeReadFile", [](QMessageBox&) {});
+    frame().openFile(write("bad.vx", "#Vexel V2.1 ascii\nCube { width much }\n"));
+    log().takeOver();
+    ASSERT_GE(log().rowCount(), 1);
+    EXPECT_EQ(log().index(0, MessageLog::SourceColumn).data().toString().toStdString(),
+              (path("bad.vx") + ":2:14").toStdString());
+    EXPECT_TRUE(dock().isVisible());
+}
+
 TEST_F(MessageDockTest, ComesUpOnceByItself)
 {
     start(QByteArray());
