@@ -103,10 +103,8 @@ QString MessageLog::cellText(const Line& line, int column) const
 QVariant MessageLog::data(const QModelIndex& index, int role) const
 {
     const Line& line = m_lines[std::size_t(index.row())];
-    if (role == Qt::DisplayRole)
+    if (role == Qt::DisplayRole || role == Qt::ToolTipRole)
         return cellText(line, index.column());
-    if (role == Qt::ToolTipRole)
-        return line.text;
     if (role == Qt::ForegroundRole && index.column() == KindColumn && line.kind == Kind::Problem)
         return ReadableColor::on(QApplication::palette().color(QPalette::Base), Problem_color);
     return QVariant();

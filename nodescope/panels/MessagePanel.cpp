@@ -26,6 +26,7 @@ MessagePanel::MessagePanel(QWidget* parent)
     m_view->setAccessibleName(tr("Messages"));
     m_view->setRootIsDecorated(false);
     m_view->setUniformRowHeights(true);
+    m_view->setTextElideMode(Qt::ElideMiddle); // a place in a file ends with its line
     m_view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     m_view->installEventFilter(this);
     for (int column = 0; column < MessageLog::TextColumn; ++column)
