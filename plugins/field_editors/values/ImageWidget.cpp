@@ -31,9 +31,9 @@ void ImageWidget::layOut()
     buttons->addStretch();
     auto* const rows = new QVBoxLayout(this);
     rows->setContentsMargins(0, 0, 0, 0);
-    rows->addWidget(m_preview, 1);
-    rows->addWidget(m_kind);
     rows->addLayout(buttons);
+    rows->addWidget(m_kind);
+    rows->addWidget(m_preview, 1);
 }
 
 void ImageWidget::showValue(const SoField& value)
