@@ -31,6 +31,8 @@ bool start(const HostingFacts& facts)
     Inspection::initialize(facts.isStandalone ? QCoreApplication::arguments() : QStringList(), facts.sceneManager);
     SoNodescopeMainFrame& frame = SoNodescopeViewer::getInstance()->mainFrame();
     QObject::connect(&frame, &SoNodescopeMainFrame::quitRequested, [] { SoNodescopeImpl::requestStop(false); });
+    if (!facts.isStandalone) // the host's main loop is over, and it takes down what it made
+        QObject::connect(qApp, &QCoreApplication::aboutToQuit, &frame, [] { SoNodescopeImpl::requestStop(true); });
     if (facts.parent) // its window is ours too, so that everything that uses it must go first
         QObject::connect(facts.parent, &QObject::destroyed, &frame, [] { SoNodescopeImpl::requestStop(true); });
     return true;
@@ -44,7 +46,9 @@ void startOnSceneManager(SoSceneManager* sceneManager, SoGuiRenderArea* renderAr
     facts.renderArea = renderArea;
     if (!start(facts))
         return;
-    sceneManager->getSceneManagerImpl()->setOwnNodescope(1);
+    SoSceneManagerImpl& manager = *sceneManager->getSceneManagerImpl();
+    manager.setOwnNodescope(1);
+    manager.setEndCallback([] { SoNodescopeImpl::requestStop(true); });
     SoNodescopeViewer::getInstance()->setSceneGraph(sceneManager->getSceneGraph(), true);
     Inspection::showMainFrame();
 }

@@ -23,9 +23,9 @@ public:
     static void startStandalone(int& argc, char** argv);
     /** Inspects a graph; the window belongs to `parent` and the inspection ends with that. */
     static void startNode(SoNode* root, QWidget* parent);
-    /** Inspects what a render area shows. */
+    /** Inspects what a render area shows; ends at the latest with its scene manager. */
     static void startRenderArea(SoGuiRenderArea* renderArea);
-    /** Inspects what a scene manager draws. */
+    /** Inspects what a scene manager draws; ends at the latest with that. */
     static void startSceneManager(SoSceneManager* sceneManager, QWidget* parent);
 
     /** To be called regularly by a host with a main loop of its own: serves the windows when the application object is

@@ -10,6 +10,7 @@ const std::vector<ProgramFile> Files{
     {"damaged.vx", "#Vexel V2.1 ascii\nSeparator {\n Translation { translation tall }\n Material { } }\n"},
     {"text.vx", "this is no scene\n"},
     {"empty.vx", ""},
+    {"other.vx", "#Vexel V2.1 ascii\nSeparator { Cube { } }\n"},
 };
 
 const std::vector<ProgramRow>& rows()
@@ -58,6 +59,7 @@ const std::vector<ProgramRow>& rows()
          "^available at first: no\navailable then: yes\nbefore: not running\nstarted: running\nserved: running\n"
          "stopped: not running\nstarted: running\nserved: running\nstopped: not running\nreferences: 1\n",
          ""},
+        {"TheLastOfTwoFilesIsOpened", {"e2e_standalone_host", "@/good.vx", "@/other.vx"}, 0, "^open: @/other.vx\n", ""},
     };
     return Table;
 }

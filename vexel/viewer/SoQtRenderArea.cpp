@@ -4,12 +4,14 @@
 #include <vexel/viewer/SoSceneManager.h>
 #include <vexel/viewer/SoSceneManagerImpl.h>
 #include <vexel/viewer/detail/EventTranslator.h>
+#include <vexel/viewer/detail/InspectorHook.h>
 #include <vexel/viewer/detail/RenderWidget.h>
 
 #include <QEvent>
 
 SoQtRenderArea::SoQtRenderArea(QWidget* parent, const char* name)
-    : m_sceneManager(std::make_unique<SoSceneManager>()), m_glWidget(new RenderWidget(m_sceneManager.get(), parent))
+    : m_sceneManager(std::make_unique<SoSceneManager>()), m_inspectorHook(std::make_unique<InspectorHook>(*this)),
+      m_glWidget(new RenderWidget(m_sceneManager.get(), parent))
 {
     m_glWidget->setObjectName(QString::fromUtf8(name));
     m_glWidget->installEventFilter(this);
@@ -25,6 +27,7 @@ SoQtRenderArea::SoQtRenderArea(QWidget* parent, const char* name)
 
 SoQtRenderArea::~SoQtRenderArea()
 {
+    m_inspectorHook.reset(); // while there is still something to inspect
     delete m_glWidget;
 }
 
@@ -50,7 +53,8 @@ SoNode* SoQtRenderArea::getSceneGraph() const
 
 bool SoQtRenderArea::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched == m_glWidget && (handleWidgetEvent(*event) || offerToScene(*event)))
+    if (watched == m_glWidget &&
+        (m_inspectorHook->handleEvent(*event) || handleWidgetEvent(*event) || offerToScene(*event)))
         return true;
     return QObject::eventFilter(watched, event);
 }

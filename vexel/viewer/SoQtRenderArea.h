@@ -5,9 +5,13 @@
 #include <QObject>
 #include <memory>
 
+class InspectorHook;
 class RenderWidget;
 
-/** A widget that shows a scene and passes the user's events to it. */
+/**
+ * A widget that shows a scene and passes the user's events to it. Shift+F12 opens the inspector on the scene, if it is
+ * installed.
+ */
 class VEXEL_API SoQtRenderArea : public QObject, public virtual SoGuiRenderArea {
     Q_OBJECT
 public:
@@ -30,5 +34,6 @@ protected:
 
 private:
     std::unique_ptr<SoSceneManager> m_sceneManager;
+    std::unique_ptr<InspectorHook> m_inspectorHook;
     RenderWidget* m_glWidget; ///< its parent may delete it first
 };

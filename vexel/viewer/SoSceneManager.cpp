@@ -30,6 +30,7 @@ SoSceneManager::SoSceneManager()
 
 SoSceneManager::~SoSceneManager()
 {
+    m_impl->leaveInspector();
     setSceneGraph(nullptr);
 }
 

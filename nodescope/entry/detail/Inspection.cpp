@@ -45,6 +45,23 @@ void makeApplication(const HostingFacts& facts)
         new QApplication(ownCount, ownArguments);
 }
 
+/** The host's handler of critical errors, which comes back at the end. */
+SoErrorCB* hostsErrorHandler = nullptr;
+void* hostsErrorData = nullptr;
+
+void installErrorHandler()
+{
+    hostsErrorHandler = SoErrorStack::getHandlerCallback();
+    hostsErrorData = SoErrorStack::getHandlerData();
+    SoErrorStack::setHandlerCallback(criticalErrorHandler);
+}
+
+void removeErrorHandler()
+{
+    if (SoErrorStack::getHandlerCallback() == criticalErrorHandler) // the host may have installed another one meanwhile
+        SoErrorStack::setHandlerCallback(hostsErrorHandler, hostsErrorData);
+}
+
 /** What the tool shows before a scene is opened. */
 SoNode* placeholderScene()
 {
@@ -82,12 +99,13 @@ void Inspection::initialize(const QStringList& arguments, const SoSceneManager* 
     if (services.isStandalone())
         SoQt::init(&frame);
     QLocale::setDefault(QLocale(QLocale::C, QLocale::AnyCountry)); // numbers have a decimal point everywhere
-    SoErrorStack::setHandlerCallback(criticalErrorHandler);
+    installErrorHandler();
     for (const char* module : Optional_modules)
         SpnSymTool::initModule(module);
 
     SoCommandManager& manager = *services.getCommandManager();
     using Hosting = SoNodescopeMainFrame::Hosting;
+    frame.setAttribute(Qt::WA_QuitOnClose, services.isStandalone()); // a host's end does not hang on our window
     frame.setUp(&manager, services.isStandalone() ? Hosting::Standalone : Hosting::Attached);
     SoNodescopeViewer& viewer = *SoNodescopeViewer::getInstance();
     auto* const messages = new MessageDock(frame);
@@ -123,7 +141,7 @@ void Inspection::cleanup()
     SoPreferenceStore::deleteInstance();
     NscNodeInfo::clean();
     Translations::remove();
-    SoErrorStack::setHandlerCallback(nullptr);
+    removeErrorHandler();
     for (auto module = std::rbegin(Optional_modules); module != std::rend(Optional_modules); ++module)
         SpnSymTool::finishModule(*module);
     if (ownsApplicationObject)

@@ -7,6 +7,8 @@
 #include <vexel/viewer/SoSceneManager.h>
 #include <vexel/viewer/SoSceneManagerImpl.h>
 
+#include <memory>
+
 namespace {
 
 /** A host that shows a scene in a viewer of its own. */
@@ -69,6 +71,26 @@ TEST_F(AttachedTest, ASceneManagerMayStandAlone)
     EXPECT_EQ(NscServices::getInstance()->getRenderArea(), nullptr);
     EXPECT_EQ(SoNodescopeViewer::getInstance()->scene(), m_root);
     _stop(); // before the scene manager goes
+}
+
+TEST_F(AttachedTest, EndsWithTheSceneManager)
+{
+    auto manager = std::make_unique<SoSceneManager>();
+    manager->setSceneGraph(m_root);
+    _startSceneManager(manager.get(), nullptr);
+    manager.reset();
+    EXPECT_EQ(_isRunning(), 0);
+    EXPECT_EQ(NscServices::getInstance(), nullptr);
+}
+
+TEST_F(AttachedTest, EndsWithTheRenderArea)
+{
+    auto viewer = std::make_unique<SoQtExaminerViewer>(&m_window);
+    viewer->setSceneGraph(m_root);
+    _startRenderArea(viewer.get());
+    viewer.reset();
+    EXPECT_EQ(_isRunning(), 0);
+    EXPECT_EQ(m_root->getRefCount(), 3); // the test, and root and headlight of the other viewer
 }
 
 TEST_F(AttachedTest, ASecondStartLeavesTheOtherSceneManagerAlone)

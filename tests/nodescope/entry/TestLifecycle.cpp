@@ -3,11 +3,13 @@
 #include <extension/NscPluginsManager.h>
 #include <nodescope/tree/SoNodescopeTreeView.h>
 #include <nodescope/tree/SoTreeViewItem.h>
+#include <vexel/base/SoErrorStack.h>
 #include <vexel/nodes/SoSelection.h>
 
 #include <QAction>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QTimer>
 #include <memory>
 
 TEST_F(InspectionTest, RunsFromStartToStop)
@@ -103,6 +105,56 @@ TEST_F(InspectionTest, SetSceneGraphDoesNothing)
     _setSceneGraph(other);
     EXPECT_EQ(SoNodescopeViewer::getInstance()->scene(), m_root);
     other->unref();
+}
+
+TEST_F(InspectionTest, SetSceneGraphDoesNothingWhileAStopIsPending)
+{
+    _startNode(m_root, nullptr);
+    frame().close();
+    _setSceneGraph(m_root);
+    EXPECT_EQ(_isRunning(), 0);
+    EXPECT_EQ(SoNodescopeViewer::getInstance()->scene(), m_root);
+    EXPECT_EQ(_processEvents(), 0);
+}
+
+TEST_F(InspectionTest, TheHostEndsWithItsOwnLastWindow)
+{
+    QWidget host;
+    host.show();
+    _startNode(m_root, nullptr);
+    QTimer::singleShot(0, &host, &QWidget::close);
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(_isRunning(), 0);
+}
+
+TEST_F(InspectionTest, AHostWithoutAWindowDoesNotEndWithTheInspectors)
+{
+    _startNode(m_root, nullptr);
+    QTimer::singleShot(0, qApp, [] {
+        frame().close();
+        QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(7); });
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 7);
+}
+
+TEST_F(InspectionTest, EndsWithTheHostsMainLoop)
+{
+    _startNode(m_root, nullptr);
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
+    EXPECT_EQ(_isRunning(), 0);
+    EXPECT_EQ(NscShell::getInstance(), nullptr);
+}
+
+TEST_F(InspectionTest, TheHostsHandlerOfCriticalErrorsComesBack)
+{
+    int numErrors = 0;
+    SoErrorStack::setHandlerCallback([](const SoError*, void* data) { ++*static_cast<int*>(data); }, &numErrors);
+    _startNode(m_root, nullptr);
+    _stop();
+    SoErrorStack::post("critical");
+    EXPECT_EQ(numErrors, 1);
+    SoErrorStack::setHandlerCallback(nullptr);
 }
 
 TEST_F(InspectionTest, ReleasesTheSceneAtTheEnd)

@@ -1,0 +1,14 @@
+#include "ChildWindowPanel.h"
+
+#include <vexel/viewer/SoQt.h>
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    QApplication application(argc, argv);
+    SoQt::init(nullptr);
+    ChildWindowPanel window;
+    window.show();
+    return SoQt::mainLoop();
+}
