@@ -1,6 +1,7 @@
-#include <plugins/field_editors/EditorTable.h>
+#include "Translation.h"
 
 #include <extension/NscPlugin.h>
+#include <plugins/field_editors/EditorTable.h>
 #include <plugins/field_editors/panel/FieldEditorPanel.h>
 #include <vexel/base/SbString.h>
 
@@ -16,6 +17,9 @@ public:
     {
         return name == Panel ? new FieldEditorPanel({name}) : EditorTable::create(name);
     }
+
+private:
+    Translation m_translation;
 };
 
 } // namespace

@@ -7,7 +7,7 @@
 namespace {
 
 /** So many samples in each direction make a pixel of an image that is scaled down. */
-constexpr int Samples = 4;
+constexpr int Samples = 2;
 constexpr int Square = 8;
 const QColor Dark_square(110, 110, 110);
 const QColor Light_square(150, 150, 150);

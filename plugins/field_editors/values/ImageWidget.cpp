@@ -39,7 +39,7 @@ void ImageWidget::layOut()
 void ImageWidget::showValue(const SoField& value)
 {
     const auto& image = static_cast<const SoSFImage&>(value);
-    const QString kinds[] = {QString(), tr("grey"), tr("grey and alpha"), tr("RGB"), tr("RGBA")};
+    const QString kinds[] = {QString(), tr("gray"), tr("gray and alpha"), tr("RGB"), tr("RGBA")};
     const SbVec2i32 size = image.getSize();
     m_kind->setText(image.isEmpty() ? tr("No image")
                                     : tr("%1 x %2, %3").arg(size[0]).arg(size[1]).arg(kinds[image.getNumComponents()]));

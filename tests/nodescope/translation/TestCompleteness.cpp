@@ -37,15 +37,25 @@ QList<Message> readMessages(const QString& fileName)
     return messages;
 }
 
+/** A file of texts, relative to the sources, and where its texts stand. */
+struct Texts {
+    const char* file;
+    QStringList folders;
+    int fewest;
+    const char* readme;
+
+    QString path() const { return QDir(SOURCE_FOLDER).filePath(file); }
+};
+
 /** The translation after a look at all sources, as it would be written into the repository. */
-QList<Message> updatedMessages()
+QList<Message> updatedMessages(const Texts& texts)
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath("updated.ts");
-    EXPECT_TRUE(QFile::copy(TRANSLATION, copy));
+    EXPECT_TRUE(QFile::copy(texts.path(), copy));
     QProcess update;
     update.setWorkingDirectory(SOURCE_FOLDER);
-    update.start(LUPDATE, {"-silent", "nodescope", "extension", "vexel/viewer", "-ts", copy});
+    update.start(LUPDATE, QStringList("-silent") + texts.folders + QStringList({"-ts", copy}));
     EXPECT_TRUE(update.waitForFinished() && update.exitCode() == 0) << update.errorString().toStdString();
     return readMessages(copy);
 }
@@ -60,24 +70,36 @@ QStringList placeholders(const QString& text)
     return found;
 }
 
+class GermanTexts : public testing::TestWithParam<Texts> {};
+
 } // namespace
 
-TEST(GermanTexts, AreThereForEveryTextOfTheSources)
+TEST_P(GermanTexts, AreThereForEveryTextOfTheSources)
 {
-    const QList<Message> messages = updatedMessages();
-    EXPECT_GT(messages.size(), 200);
+    const QList<Message> messages = updatedMessages(GetParam());
+    EXPECT_GT(messages.size(), GetParam().fewest);
     for (const Message& message : messages) {
         EXPECT_TRUE(message.isFinished && !message.translation.isEmpty())
             << message.context.toStdString() << ": '" << message.source.toStdString()
-            << "' has no translation, or is no text of the program any more; see nodescope/resources/README.md";
+            << "' has no translation, or is no text of the program any more; see " << GetParam().readme;
     }
 }
 
-TEST(GermanTexts, HaveThePlaceholdersAndDotsOfTheirSources)
+TEST_P(GermanTexts, HaveThePlaceholdersAndDotsOfTheirSources)
 {
-    for (const Message& message : readMessages(TRANSLATION)) {
+    for (const Message& message : readMessages(GetParam().path())) {
         EXPECT_EQ(placeholders(message.translation), placeholders(message.source)) << message.source.toStdString();
         EXPECT_EQ(message.translation.endsWith("..."), message.source.endsWith("...")) << message.source.toStdString();
         EXPECT_EQ(message.translation.endsWith(' '), message.source.endsWith(' ')) << message.source.toStdString();
     }
 }
+
+INSTANTIATE_TEST_SUITE_P(Files, GermanTexts,
+                         testing::Values(Texts{"nodescope/resources/translations/nodescope_de.ts",
+                                               {"nodescope", "extension", "vexel/viewer"},
+                                               200,
+                                               "nodescope/resources/README.md"},
+                                         Texts{"plugins/field_editors/translations/field_editors_de.ts",
+                                               {"plugins/field_editors"},
+                                               100,
+                                               "plugins/field_editors/README.md"}));

@@ -64,6 +64,21 @@ TEST_F(GermanTest, DialogsAreGerman)
     EXPECT_EQ(frame().findChild<QDialog*>()->windowTitle(), "Suchen");
 }
 
+TEST_F(GermanTest, ThePanelOfFieldEditorsIsGermanAsLongAsThePlugInIsThere)
+{
+    write("empty.xml", "<configuration><plugins><loadPlugin file=\"kor_nodescope_extender_base\"/></plugins>"
+                       "<profiles default=\"Main\"><profile name=\"Main\">"
+                       "<activeExtension plugin=\"NscDefaults\" extension=\"Field Editor\"/>"
+                       "</profile></profiles></configuration>");
+    _startNode(m_root, nullptr);
+    const auto* dock = frame().findChild<QDockWidget*>("FieldEditor");
+    ASSERT_TRUE(dock);
+    EXPECT_EQ(dock->windowTitle(), "Feld-Editor");
+    EXPECT_EQ(QCoreApplication::translate("ColorSwatch", "Color"), "Farbe");
+    _stop();
+    EXPECT_EQ(QCoreApplication::translate("ColorSwatch", "Color"), "Color");
+}
+
 TEST_F(GermanTest, TextsAndLocaleOfTheHostStayAsTheyAre)
 {
     const QLocale before;

@@ -70,9 +70,9 @@ TEST(ImageWidgetTest, saysSizeAndKind)
     shown.show(2, 1, 3);
     EXPECT_EQ("2 x 1, RGB", shown.kind());
     shown.show(2, 1, 2);
-    EXPECT_EQ("2 x 1, grey and alpha", shown.kind());
+    EXPECT_EQ("2 x 1, gray and alpha", shown.kind());
     shown.show(2, 1, 1);
-    EXPECT_EQ("2 x 1, grey", shown.kind());
+    EXPECT_EQ("2 x 1, gray", shown.kind());
     shown.show(0, 0, 0);
     EXPECT_EQ("No image", shown.kind());
     EXPECT_FALSE(shown.button("Save...").isEnabled());
