@@ -39,6 +39,7 @@ FieldEditorPanel::FieldEditorPanel(Info info)
 FieldEditorPanel::~FieldEditorPanel()
 {
     showEditor(nullptr);
+    m_dock->removeEventFilter(this);
     if (NscShell* const shell = NscShell::getInstance()) {
         shell->removeViewToggle(this);
         shell->removeDockWidget(m_dock);
