@@ -1,7 +1,7 @@
 #pragma once
 
-#include <algorithm>
 #include <plugins/field_editors/lists/ListColumns.h>
+#include <plugins/field_editors/values/ColorText.h>
 #include <plugins/field_editors/values/Components.h>
 #include <vexel/base/SbString.h>
 
@@ -62,9 +62,7 @@ public:
     std::optional<QColor> color(const SoMField& list, int row) const override
     {
         if constexpr (std::is_same_v<Value, SbColor>) {
-            const SbColor& color = Base::valueOf(list, row);
-            const auto part = [&](int i) { return std::clamp(double(color[i]), 0.0, 1.0); };
-            return QColor::fromRgbF(part(0), part(1), part(2));
+            return ColorText::onScreen(Base::valueOf(list, row));
         } else {
             return ListColumns::color(list, row);
         }

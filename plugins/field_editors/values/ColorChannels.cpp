@@ -2,19 +2,9 @@
 
 #include "NumberBox.h"
 #include "NumberGrid.h"
+#include "RangeSlider.h"
 
-#include <QSignalBlocker>
-#include <QSlider>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <cmath>
-
-namespace {
-
-constexpr int Slider_steps = 1000;
-constexpr int Page_steps = 100;
-
-} // namespace
 
 ColorChannels::ColorChannels(const NumberKind& kind, const QStringList& names, const QStringList& longNames,
                              QWidget* parent)
@@ -32,38 +22,28 @@ ColorChannels::ColorChannels(const NumberKind& kind, const QStringList& names, c
 
 void ColorChannels::addSlider(int i, const QString& name)
 {
-    auto* const slider = new QSlider(Qt::Horizontal);
-    slider->setRange(0, Slider_steps);
-    slider->setSingleStep(Slider_steps / 100);
-    slider->setPageStep(Page_steps);
+    auto* const slider = new RangeSlider;
     slider->setAccessibleName(name);
     slider->setToolTip(name);
     m_grid->box(i).setAccessibleName(name);
     m_grid->addBehind(i, *slider);
     m_sliders.push_back(slider);
-    connect(slider, &QSlider::sliderPressed, this, &ColorChannels::gestureBegun);
-    connect(slider, &QSlider::sliderReleased, this, &ColorChannels::gestureEnded);
-    connect(slider, &QSlider::valueChanged, this, [this, i](int position) {
-        const double number = double(position) / Slider_steps;
-        m_grid->setValue(i, number);
-        emit edited(i, number);
-    });
+    connect(slider, &RangeSlider::gestureBegun, this, &ColorChannels::gestureBegun);
+    connect(slider, &RangeSlider::gestureEnded, this, &ColorChannels::gestureEnded);
+    connect(slider, &RangeSlider::edited, this, [this, i](double number) { emit edited(i, number); });
 }
 
 void ColorChannels::setNumbers(const SbVec3f& numbers)
 {
     for (int i = 0; i < m_grid->count(); ++i) {
         m_grid->setValue(i, double(numbers[i]));
-        QSlider& slider = *m_sliders[std::size_t(i)];
-        const QSignalBlocker quiet(slider);
-        if (!slider.isSliderDown())
-            slider.setValue(int(std::lround(std::clamp(numbers[i], 0.0f, 1.0f) * Slider_steps)));
+        m_sliders[std::size_t(i)]->showNumber(double(numbers[i]));
     }
 }
 
 void ColorChannels::setReadOnly(bool isReadOnly)
 {
     m_grid->setReadOnly(isReadOnly);
-    for (QSlider* slider : m_sliders)
+    for (RangeSlider* slider : m_sliders)
         slider->setEnabled(!isReadOnly);
 }

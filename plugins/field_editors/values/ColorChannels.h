@@ -6,7 +6,7 @@
 #include <vexel/base/SbVec3f.h>
 
 class NumberGrid;
-class QSlider;
+class RangeSlider;
 
 /** Three numbers that make a colour, each with a slider from 0 to 1. */
 class ColorChannels : public QWidget {
@@ -32,5 +32,5 @@ private:
     void addSlider(int i, const QString& name);
 
     NumberGrid* m_grid;
-    std::vector<QSlider*> m_sliders;
+    std::vector<RangeSlider*> m_sliders;
 };

@@ -125,6 +125,7 @@ void ColorWidget::setReadOnly(bool isReadOnly)
 
 void ColorWidget::forgetInput()
 {
+    ValueWidget::forgetInput();
     m_swatch->closeDialog();
     m_line->forget();
     m_hsv = SbVec3f();

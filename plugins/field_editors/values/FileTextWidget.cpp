@@ -52,7 +52,7 @@ void FileTextWidget::showText()
 
 void FileTextWidget::setReadOnly(bool isReadOnly)
 {
-    m_edit->setReadOnly(isReadOnly);
+    Marking::setReadOnly(*m_edit, isReadOnly);
 }
 
 void FileTextWidget::check()

@@ -18,6 +18,7 @@ public:
 
     void showValue(const SoField& value) override;
     void setReadOnly(bool isReadOnly) override;
+    void forgetInput() override { showText(); }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -45,6 +45,12 @@ void NumberBox::setValue(double value)
         showProblem(QString());
 }
 
+void NumberBox::forgetInput()
+{
+    lineEdit()->setText(m_shown);
+    showProblem(QString());
+}
+
 double NumberBox::stepWithModifiers() const
 {
     const Qt::KeyboardModifiers modifiers = QGuiApplication::keyboardModifiers();
@@ -144,8 +150,7 @@ void NumberBox::keyPressEvent(QKeyEvent* event)
         takeText();
         selectAll();
     } else if (event->key() == Qt::Key_Escape && lineEdit()->text() != m_shown) {
-        lineEdit()->setText(m_shown);
-        showProblem(QString());
+        forgetInput();
     } else {
         QAbstractSpinBox::keyPressEvent(event);
     }

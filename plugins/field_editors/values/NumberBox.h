@@ -15,6 +15,8 @@ public:
     double value() const { return m_value; }
     /** Shows a number, unless the user is typing one. */
     void setValue(double value);
+    /** Drops what the user is typing. */
+    void forgetInput();
     /** What an arrow key without a modifier adds; 1 at first. */
     void setStep(double step) { m_step = step; }
 

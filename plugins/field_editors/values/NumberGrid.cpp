@@ -100,3 +100,9 @@ void NumberGrid::setReadOnly(bool isReadOnly)
             label->setReadOnly(isReadOnly);
     }
 }
+
+void NumberGrid::forgetInput()
+{
+    for (NumberBox* box : m_boxes)
+        box->forgetInput();
+}

@@ -34,6 +34,8 @@ public:
     void addBehind(int i, QWidget& widget);
     ///@}
     void setReadOnly(bool isReadOnly);
+    /** Drops what the user is typing. */
+    void forgetInput();
 
 signals:
     void edited(int i, double value);

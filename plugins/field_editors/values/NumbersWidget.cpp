@@ -1,10 +1,10 @@
 #include "NumbersWidget.h"
 
 #include "NumberGrid.h"
+#include "RangeSlider.h"
 
 #include <QHBoxLayout>
 #include <QIcon>
-#include <QSlider>
 #include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
@@ -12,7 +12,6 @@
 
 namespace {
 
-constexpr int Slider_steps = 1000;
 /** A range up to this length is stepped by a tenth. */
 constexpr double Short_range = 2;
 
@@ -51,15 +50,12 @@ NumbersWidget::~NumbersWidget() = default;
 
 void NumbersWidget::addSlider()
 {
-    m_slider = new QSlider(Qt::Horizontal);
-    m_slider->setRange(0, Slider_steps);
+    m_slider = new RangeSlider;
+    m_slider->setAccessibleName(tr("Value"));
     m_slider->hide();
-    connect(m_slider, &QSlider::sliderPressed, this, &NumbersWidget::gestureBegun);
-    connect(m_slider, &QSlider::sliderReleased, this, &NumbersWidget::gestureEnded);
-    connect(m_slider, &QSlider::valueChanged, this, [this](int position) {
-        const double length = m_range.highest - m_range.lowest;
-        setNumber(0, m_range.lowest + length * position / Slider_steps);
-    });
+    connect(m_slider, &RangeSlider::gestureBegun, this, &NumbersWidget::gestureBegun);
+    connect(m_slider, &RangeSlider::gestureEnded, this, &NumbersWidget::gestureEnded);
+    connect(m_slider, &RangeSlider::edited, this, [this](double number) { setNumber(0, number); });
 }
 
 void NumbersWidget::addVectorButtons()
@@ -94,11 +90,8 @@ void NumbersWidget::showNumbers()
         squares += number * number;
         m_grid->setValue(i, number);
     }
-    if (m_slider) {
-        const double part = (m_access.get(*m_value, 0) - m_range.lowest) / (m_range.highest - m_range.lowest);
-        const QSignalBlocker quiet(m_slider);
-        m_slider->setValue(int(std::round(std::clamp(part, 0.0, 1.0) * Slider_steps)));
-    }
+    if (m_slider)
+        m_slider->showNumber(m_access.get(*m_value, 0));
     if (m_normalise)
         m_normalise->setEnabled(m_link->isEnabled() && squares > 0);
 }
@@ -117,12 +110,12 @@ void NumbersWidget::setRange(const ValueRange* range)
 {
     const bool isShort = range && !m_access.kind.isWhole && range->highest - range->lowest <= Short_range;
     m_grid->setStep(isShort ? 0.1 : 1);
+    if (!m_slider)
+        return;
     if (range)
-        m_range = *range;
-    if (m_slider) {
-        m_slider->setVisible(range);
-        showNumbers();
-    }
+        m_slider->setValueRange(*range);
+    m_slider->setVisible(range);
+    showNumbers();
 }
 
 void NumbersWidget::setNumber(int i, double number)

@@ -7,8 +7,8 @@
 #include <vexel/fields/SoField.h>
 
 class NumberGrid;
-class QSlider;
 class QToolButton;
+class RangeSlider;
 
 /** How the numbers of a single-value field are read and set. */
 struct NumberAccess {
@@ -62,8 +62,7 @@ private:
     std::unique_ptr<SoField> m_value;
     NumberGrid* m_grid;
     std::vector<double> m_proportions; ///< of linked components, kept while one of them passes through zero
-    QSlider* m_slider = nullptr;
+    RangeSlider* m_slider = nullptr;
     QToolButton* m_link = nullptr;
     QToolButton* m_normalise = nullptr;
-    ValueRange m_range{0, 1};
 };

@@ -6,10 +6,15 @@
 
 void ValueWidget::setRange(const ValueRange*) {}
 
-void ValueWidget::forgetInput() {}
+void ValueWidget::forgetInput()
+{
+    for (const auto& each : m_problems)
+        each.first->forgetInput();
+}
 
 void ValueWidget::include(NumberGrid& grid)
 {
+    m_problems[&grid].clear();
     connect(&grid, &NumberGrid::gestureBegun, this, &ValueWidget::gestureBegun);
     connect(&grid, &NumberGrid::gestureEnded, this, &ValueWidget::gestureEnded);
     connect(&grid, &NumberGrid::problemChanged, this, [this, &grid](const QString& problem) {

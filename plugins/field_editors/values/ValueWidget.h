@@ -27,7 +27,7 @@ public:
     /** Null: not known. By default without effect. */
     virtual void setRange(const ValueRange* range);
     /** What the user is typing or choosing is dropped, because another value than the one so far is to be shown; what
-     * was given back stays. By default without effect. */
+     * was given back stays. By default that of the included grids. */
     virtual void forgetInput();
 
 signals:
@@ -42,9 +42,9 @@ signals:
     void problemChanged(const QString& problem);
 
 protected:
-    /** Passes the grid's gestures and problems on. */
+    /** Passes the grid's gestures and problems on. It lives as long as the widget. */
     void include(NumberGrid& grid);
 
 private:
-    std::map<const NumberGrid*, QString> m_problems;
+    std::map<NumberGrid*, QString> m_problems; ///< of the included grids
 };

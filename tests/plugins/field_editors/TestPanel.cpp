@@ -95,6 +95,34 @@ TEST_F(PanelTest, typingEditsTheFieldAndUndoShowsIt)
     QTRY_COMPARE(box->value(), 2.0);
 }
 
+TEST_F(PanelTest, whatIsTypedForAFieldIsNotGivenToAnother)
+{
+    addEditor("SFFloat");
+    addEditor("SField");
+    select(m_cone->height);
+    auto* const box = seen<NumberBox>();
+    box->setFocus();
+    box->selectAll();
+    QTest::keyClicks(box, "5x");
+    select(m_cone->bottomRadius);
+    EXPECT_EQ("1", seen<QLineEdit>()->text());
+    QTest::keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(1, m_cone->bottomRadius.getValue());
+    EXPECT_EQ(2, m_cone->height.getValue());
+    EXPECT_FALSE(shows("\"5x\" is not a number."));
+    auto* const other = new SoCone;
+    m_root->addChild(other);
+    select(m_cone->parts);
+    auto* const text = seen<QPlainTextEdit>();
+    text->setFocus();
+    text->selectAll();
+    QTest::keyClicks(text, "SIDES");
+    select(other->parts);
+    EXPECT_EQ("ALL", text->toPlainText());
+    text->clearFocus();
+    EXPECT_EQ(SoCone::ALL, other->parts.getValue());
+}
+
 TEST_F(PanelTest, followsTheHost)
 {
     addEditor("SFFloat");
