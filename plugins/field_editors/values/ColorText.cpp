@@ -11,7 +11,8 @@ constexpr int Digits = 6;
 
 QColor ColorText::onScreen(const SbColor& color)
 {
-    const auto part = [&](int i) { return std::clamp(double(color[i]), 0.0, 1.0); };
+    // In this order for what is no number.
+    const auto part = [&](int i) { return color[i] > 0 ? std::min(double(color[i]), 1.0) : 0.0; };
     return QColor::fromRgbF(part(0), part(1), part(2));
 }
 

@@ -28,5 +28,6 @@ void RangeSlider::showNumber(double number)
         return;
     const double part = (number - m_range.lowest) / (m_range.highest - m_range.lowest);
     const QSignalBlocker quiet(this);
-    setValue(int(std::lround(std::clamp(part, 0.0, 1.0) * Positions)));
+    // In this order for what is no number.
+    setValue(part > 0 ? int(std::lround(std::min(part, 1.0) * Positions)) : 0);
 }

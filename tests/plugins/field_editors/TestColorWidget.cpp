@@ -11,6 +11,7 @@
 #include <QMouseEvent>
 #include <QSlider>
 #include <QTableView>
+#include <limits>
 
 namespace {
 
@@ -73,6 +74,16 @@ TEST(ColorWidgetTest, numbersAreTypedAlsoOutsideOfTheSliders)
     shown.typeInto(shown.box(Color::Blue), "-1");
     EXPECT_EQ(SbColor(2.5f, 0.25f, -1), shown.last.getValue());
     EXPECT_EQ(3, shown.edits);
+}
+
+TEST(ColorWidgetTest, whatIsNoNumberIsBlackOnTheScreen)
+{
+    Color shown;
+    shown.showValue(SbColor(std::numeric_limits<float>::quiet_NaN(), 1, std::numeric_limits<float>::infinity()));
+    EXPECT_EQ("#00ffff", shown.seen());
+    EXPECT_EQ("nan", shown.box(Color::Red).text());
+    EXPECT_EQ(0, shown.slider(Color::Red).value());
+    EXPECT_EQ(1000, shown.slider(Color::Blue).value());
 }
 
 TEST(ColorWidgetTest, hueSaturationAndBrightnessAreTyped)

@@ -149,6 +149,24 @@ TEST_F(StringEditorTest, allTypingIsUndoneInOneStep)
     EXPECT_EQ("hello", node->string.getValue());
 }
 
+TEST_F(StringEditorTest, escapeGivesTheFieldItsTextBack)
+{
+    addEditor("SFString");
+    auto* const node = new SoInfo;
+    m_root->addChild(node);
+    node->string = "before";
+    select(node->string);
+    QPlainTextEdit& edit = focusedText();
+    QTest::keyClicks(&edit, "not ");
+    EXPECT_EQ("not before", node->string.getValue());
+    QTest::keyClick(&edit, Qt::Key_Escape);
+    EXPECT_EQ("before", node->string.getValue());
+    EXPECT_EQ("before", edit.toPlainText());
+    edit.clearFocus();
+    undo();
+    EXPECT_EQ("before", node->string.getValue()) << "there is nothing to undo";
+}
+
 TEST_F(StringEditorTest, anotherFieldDoesNotGetWhatIsTyped)
 {
     addEditor("SFString");
