@@ -17,6 +17,7 @@ using Arguments = std::vector<std::string>;
 int runInfo(const Arguments& arguments);
 int runCheck(const Arguments& arguments);
 int runConvert(const Arguments& arguments);
+int runExport(const Arguments& arguments);
 int runRender(const Arguments& arguments);
 
 /** Prints what is wrong with the command line; answers Unreadable. */

@@ -25,6 +25,7 @@ const Command Commands[] = {
     {"convert", "convert IN OUT [--ascii | --binary]",
      "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert,
      false},
+    {"export", "export FILE OUT", "draws a scene into a file of lines and surfaces: .pdf, .ps", runExport, true},
     {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender, true},
 };
 

@@ -1,6 +1,7 @@
 #include "SurfaceTriangle.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 SurfaceTriangle::SurfaceTriangle(const std::array<PagePoint, 3>& points, const std::array<double, 3>& pointDepths,
@@ -15,6 +16,11 @@ SurfaceTriangle::SurfaceTriangle(const std::array<PagePoint, 3>& points, const s
         std::swap(corners[1], corners[2]);
         std::swap(depths[1], depths[2]);
     }
+    for (std::size_t i = 0; i < 3; ++i)
+        insides[i] = Linear::leftOf(corners[i], corners[(i + 1) % 3]);
+    std::tie(left, right) = std::minmax({corners[0].x, corners[1].x, corners[2].x});
+    std::tie(bottom, top) = std::minmax({corners[0].y, corners[1].y, corners[2].y});
+    nearest = std::min({depths[0], depths[1], depths[2]});
     const double area = twiceArea();
     if (area == 0)
         return;
@@ -24,9 +30,4 @@ SurfaceTriangle::SurfaceTriangle(const std::array<PagePoint, 3>& points, const s
     depth.a = (dz1 * (corners[2].y - corners[0].y) - dz2 * (corners[1].y - corners[0].y)) / area;
     depth.b = (dz2 * (corners[1].x - corners[0].x) - dz1 * (corners[2].x - corners[0].x)) / area;
     depth.c = depths[0] - depth.a * corners[0].x - depth.b * corners[0].y;
-}
-
-double SurfaceTriangle::nearest() const
-{
-    return std::min({depths[0], depths[1], depths[2]});
 }

@@ -10,12 +10,17 @@ struct PLOTKIT_API SurfaceTriangle {
     std::array<double, 3> depths{};
     Linear depth; ///< of all its points
     bool isOpaque = true;
+    std::array<Linear, 3> insides; ///< positive inside the edge from each corner to the next
+    double left = 0, right = 0, bottom = 0, top = 0;
+    double nearest = 0; ///< the smallest depth
 
     /** Turned as needed. */
     SurfaceTriangle(const std::array<PagePoint, 3>& corners, const std::array<double, 3>& depths, bool isOpaque);
 
     ConvexPolygon polygon() const { return {corners[0], corners[1], corners[2]}; }
-    /** Positive inside the edge from this corner to the next. */
-    Linear inside(int edge) const { return Linear::leftOf(corners[edge], corners[(edge + 1) % 3]); }
-    double nearest() const;
+    /** Whether the rectangles around the two meet. */
+    bool isNear(const SurfaceTriangle& other) const
+    {
+        return left < other.right && other.left < right && bottom < other.top && other.bottom < top;
+    }
 };

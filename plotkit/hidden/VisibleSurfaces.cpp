@@ -4,11 +4,14 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
+#include <tuple>
 
 namespace {
 
 constexpr std::size_t Few = 12;
 constexpr int Most_divisions = 14;
+/** Triangles in front that are cut out of a whole triangle; behind more of them it is seen in pieces. */
+constexpr std::size_t Most_fronts = 24;
 /** Depths closer than this count as the same: the first triangle is seen then, as in a picture drawn in this order. */
 constexpr double Same_depth = 1e-7;
 /** Square millimetres below which nobody sees a part. */
@@ -31,12 +34,10 @@ struct VisibleSurfaces::Rect {
     }
     bool touches(const SurfaceTriangle& triangle) const
     {
-        const auto& [a, b, c] = triangle.corners;
-        if (std::max({a.x, b.x, c.x}) <= left || std::min({a.x, b.x, c.x}) >= right ||
-            std::max({a.y, b.y, c.y}) <= bottom || std::min({a.y, b.y, c.y}) >= top)
+        if (triangle.right <= left || triangle.left >= right || triangle.top <= bottom || triangle.bottom >= top)
             return false;
-        for (int edge = 0; edge < 3; ++edge) {
-            const Linear inside = triangle.inside(edge);
+        for (std::size_t edge = 0; edge < 3; ++edge) {
+            const Linear& inside = triangle.insides[edge];
             // The corner that lies farthest inside.
             if (inside.at({inside.a > 0 ? right : left, inside.b > 0 ? top : bottom}) <= 0)
                 return false;
@@ -45,8 +46,8 @@ struct VisibleSurfaces::Rect {
     }
     bool isCoveredBy(const SurfaceTriangle& triangle) const
     {
-        for (int edge = 0; edge < 3; ++edge) {
-            const Linear inside = triangle.inside(edge);
+        for (std::size_t edge = 0; edge < 3; ++edge) {
+            const Linear& inside = triangle.insides[edge];
             if (inside.at({inside.a > 0 ? left : right, inside.b > 0 ? bottom : top}) < 0)
                 return false;
         }
@@ -55,7 +56,7 @@ struct VisibleSurfaces::Rect {
     double nearest(const SurfaceTriangle& triangle) const
     {
         const Linear& depth = triangle.depth;
-        return std::max(triangle.nearest(), depth.at({depth.a > 0 ? left : right, depth.b > 0 ? bottom : top}));
+        return std::max(triangle.nearest, depth.at({depth.a > 0 ? left : right, depth.b > 0 ? bottom : top}));
     }
     double farthest(const SurfaceTriangle& triangle) const
     {
@@ -71,10 +72,7 @@ struct VisibleSurfaces::Rect {
     }
 };
 
-VisibleSurfaces::VisibleSurfaces(const std::vector<SurfaceTriangle>& triangles)
-    : m_triangles(triangles), m_isCut(triangles.size())
-{
-}
+VisibleSurfaces::VisibleSurfaces(const std::vector<SurfaceTriangle>& triangles) : m_triangles(triangles) {}
 
 bool VisibleSurfaces::find(const PartCB& part, const ProgressCB& progress)
 {
@@ -86,10 +84,9 @@ bool VisibleSurfaces::find(const PartCB& part, const ProgressCB& progress)
         if (m_triangles[i].polygon().area() <= 0)
             continue;
         indices.push_back(std::uint32_t(i));
-        for (const PagePoint& corner : m_triangles[i].corners) {
-            all = {std::min(all.left, corner.x), std::min(all.bottom, corner.y), std::max(all.right, corner.x),
-                   std::max(all.top, corner.y)};
-        }
+        const SurfaceTriangle& each = m_triangles[i];
+        all = {std::min(all.left, each.left), std::min(all.bottom, each.bottom), std::max(all.right, each.right),
+               std::max(all.top, each.top)};
     }
     if (!indices.empty())
         divide(all, indices, 0, 1);
@@ -99,56 +96,66 @@ bool VisibleSurfaces::find(const PartCB& part, const ProgressCB& progress)
     return true;
 }
 
-void VisibleSurfaces::divide(const Rect& part, Indices& triangles, int depth, double share)
+void VisibleSurfaces::divide(const Rect& part, const Indices& triangles, int depth, double share)
 {
     if (m_isEnded)
         return;
-    dropCovered(part, triangles);
-    if (triangles.size() <= Few || depth == Most_divisions) {
+    std::array<Indices, 4> quarters;
+    const auto square = [](const Indices& indices) { return double(indices.size()) * double(indices.size()); };
+    double effort = 0;
+    for (int i = 0; i < 4 && triangles.size() > Few && depth < Most_divisions; ++i) {
+        const Rect quarter = part.quarter(i);
+        Indices& inside = quarters[std::size_t(i)];
+        std::copy_if(triangles.begin(), triangles.end(), std::back_inserter(inside),
+                     [&](std::uint32_t each) { return quarter.touches(m_triangles[each]); });
+        dropCovered(quarter, inside);
+        effort += square(inside);
+    }
+    // Each triangle of a part is compared with each other one: where triangles are large there is nothing to gain.
+    if (effort == 0 || effort > square(triangles)) {
         cutOut(part, triangles);
         m_done += share;
         m_isEnded = m_progress && !m_progress(m_done);
         return;
     }
-    Indices inside;
     for (int i = 0; i < 4; ++i) {
-        const Rect quarter = part.quarter(i);
-        inside.clear();
-        std::copy_if(triangles.begin(), triangles.end(), std::back_inserter(inside),
-                     [&](std::uint32_t each) { return quarter.touches(m_triangles[each]); });
-        divide(quarter, inside, depth + 1, share / 4);
+        divide(part.quarter(i), quarters[std::size_t(i)], depth + 1, share / 4);
+        Indices().swap(quarters[std::size_t(i)]);
     }
 }
 
 void VisibleSurfaces::dropCovered(const Rect& part, Indices& triangles)
 {
     double nearestCover = std::numeric_limits<double>::max();
+    std::uint32_t cover = 0;
     for (const std::uint32_t each : triangles) {
         const SurfaceTriangle& triangle = m_triangles[each];
-        if (triangle.isOpaque && part.isCoveredBy(triangle))
-            nearestCover = std::min(nearestCover, part.farthest(triangle));
+        if (!triangle.isOpaque || !part.isCoveredBy(triangle) || part.farthest(triangle) >= nearestCover)
+            continue;
+        nearestCover = part.farthest(triangle);
+        cover = each;
     }
     if (nearestCover == std::numeric_limits<double>::max())
         return;
     const auto firstHidden = std::stable_partition(triangles.begin(), triangles.end(), [&](std::uint32_t each) {
         return part.nearest(m_triangles[each]) <= nearestCover + Same_depth;
     });
-    std::for_each(firstHidden, triangles.end(), [this](std::uint32_t each) { m_isCut[each] = true; });
+    std::for_each(firstHidden, triangles.end(), [&](std::uint32_t each) { m_hidings.push_back({each, cover}); });
     triangles.erase(firstHidden, triangles.end());
 }
 
-void VisibleSurfaces::cutOut(const Rect& part, Indices& triangles)
+void VisibleSurfaces::cutOut(const Rect& part, const Indices& triangles)
 {
     Indices front = triangles;
     std::sort(front.begin(), front.end(),
-              [this](std::uint32_t a, std::uint32_t b) { return m_triangles[a].nearest() < m_triangles[b].nearest(); });
+              [this](std::uint32_t a, std::uint32_t b) { return m_triangles[a].nearest < m_triangles[b].nearest; });
     for (const std::uint32_t index : triangles) {
         m_rest.assign(1, part.clip(m_triangles[index].polygon()));
         if (m_rest[0].isEmpty())
             continue;
         for (const std::uint32_t other : front) {
             if (other != index && m_triangles[other].isOpaque && subtract(m_triangles[other], other, index))
-                m_isCut[index] = true;
+                m_hidings.push_back({index, other});
         }
         keepParts(index);
     }
@@ -157,6 +164,8 @@ void VisibleSurfaces::cutOut(const Rect& part, Indices& triangles)
 bool VisibleSurfaces::subtract(const SurfaceTriangle& front, std::uint32_t frontIndex, std::uint32_t index)
 {
     const SurfaceTriangle& back = m_triangles[index];
+    if (!front.isNear(back))
+        return false;
     const Linear lead = back.depth - front.depth;
     ConvexPolygon cover = front.polygon();
     const auto isSame = [&](const PagePoint& corner) { return std::abs(lead.at(corner)) <= Same_depth; };
@@ -205,28 +214,53 @@ void VisibleSurfaces::keepParts(std::uint32_t index)
     }
 }
 
-void VisibleSurfaces::emitParts(const PartCB& part) const
+void VisibleSurfaces::emitParts(const PartCB& part)
 {
-    std::vector<const Piece*> inOrder;
-    inOrder.reserve(m_pieces.size());
-    for (const Piece& piece : m_pieces)
-        inOrder.push_back(&piece);
-    std::stable_sort(inOrder.begin(), inOrder.end(),
-                     [](const Piece* a, const Piece* b) { return a->triangle < b->triangle; });
+    std::stable_sort(m_pieces.begin(), m_pieces.end(),
+                     [](const Piece& a, const Piece& b) { return a.triangle < b.triangle; });
+    std::sort(m_hidings.begin(), m_hidings.end(), [](const Hiding& a, const Hiding& b) {
+        return std::tie(a.hidden, a.front) < std::tie(b.hidden, b.front);
+    });
     std::vector<PagePoint> corners;
-    for (auto piece = inOrder.begin(); piece != inOrder.end();) {
-        const std::uint32_t index = (*piece)->triangle;
-        if (!m_isCut[index]) { // its pieces together are the whole
+    std::vector<std::uint32_t> fronts;
+    auto hiding = m_hidings.begin();
+    for (auto piece = m_pieces.begin(); piece != m_pieces.end();) {
+        const std::uint32_t index = piece->triangle;
+        const auto next = std::find_if(piece, m_pieces.end(), [&](const Piece& p) { return p.triangle != index; });
+        fronts.clear();
+        for (; hiding != m_hidings.end() && hiding->hidden <= index; ++hiding) {
+            if (hiding->hidden == index && (fronts.empty() || fronts.back() != hiding->front))
+                fronts.push_back(hiding->front);
+        }
+        if (fronts.empty()) { // its pieces together are the whole
             const auto& whole = m_triangles[index].corners;
             corners.assign(whole.begin(), whole.end());
             part(index, corners);
+        } else {
+            emitCut(index, fronts, &*piece, std::size_t(next - piece), part);
         }
-        for (; piece != inOrder.end() && (*piece)->triangle == index; ++piece) {
-            if (!m_isCut[index])
-                continue;
-            const auto first = m_corners.begin() + (*piece)->first;
-            corners.assign(first, first + (*piece)->count);
+        piece = next;
+    }
+}
+
+void VisibleSurfaces::emitCut(std::uint32_t index, const std::vector<std::uint32_t>& fronts, const Piece* pieces,
+                              std::size_t numPieces, const PartCB& part)
+{
+    // Cut as a whole, the triangle falls into fewer parts than it has pieces in the parts of the page.
+    std::vector<PagePoint> corners;
+    if (fronts.size() <= Most_fronts) {
+        m_rest.assign(1, m_triangles[index].polygon());
+        for (const std::uint32_t front : fronts)
+            subtract(m_triangles[front], front, index);
+        for (const ConvexPolygon& rest : m_rest) {
+            corners.assign(rest.begin(), rest.end());
             part(index, corners);
         }
+        return;
+    }
+    for (std::size_t i = 0; i < numPieces; ++i) {
+        const auto first = m_corners.begin() + pieces[i].first;
+        corners.assign(first, first + pieces[i].count);
+        part(index, corners);
     }
 }

@@ -33,20 +33,26 @@ private:
         std::uint32_t first; ///< of its corners
         std::uint32_t count;
     };
+    struct Hiding {
+        std::uint32_t hidden;
+        std::uint32_t front;
+    };
     using Indices = std::vector<std::uint32_t>;
 
-    void divide(const Rect& part, Indices& triangles, int depth, double share);
+    void divide(const Rect& part, const Indices& triangles, int depth, double share);
     void dropCovered(const Rect& part, Indices& triangles);
-    void cutOut(const Rect& part, Indices& triangles);
+    void cutOut(const Rect& part, const Indices& triangles);
     bool subtract(const SurfaceTriangle& front, std::uint32_t frontIndex, std::uint32_t index);
     bool subtractFrom(const ConvexPolygon& piece, const ConvexPolygon& cover);
     void keepParts(std::uint32_t index);
-    void emitParts(const PartCB& part) const;
+    void emitParts(const PartCB& part);
+    void emitCut(std::uint32_t index, const std::vector<std::uint32_t>& fronts, const Piece* pieces,
+                 std::size_t numPieces, const PartCB& part);
 
     const std::vector<SurfaceTriangle>& m_triangles;
     std::vector<Piece> m_pieces;
     std::vector<PagePoint> m_corners;
-    std::vector<bool> m_isCut;              ///< something of the triangle is hidden
+    std::vector<Hiding> m_hidings;          ///< which triangles are hidden, at least partly, by which ones
     std::vector<ConvexPolygon> m_rest;      ///< of the triangle at work
     std::vector<ConvexPolygon> m_remaining; ///< what a subtraction leaves of m_rest
     ProgressCB m_progress;

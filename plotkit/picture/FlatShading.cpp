@@ -85,6 +85,20 @@ void paint(PictureSink& sink, const Corners& corners, float step, int cuts)
 
 } // namespace
 
+void FlatShading::begin(const PageLayout& page)
+{
+    m_picture = page.picture;
+    m_sink.begin(page);
+}
+
+void FlatShading::ground(const PageColor& bottom, const PageColor& top)
+{
+    shadedPolygon({{{m_picture.left, m_picture.bottom}, bottom},
+                   {{m_picture.right(), m_picture.bottom}, bottom},
+                   {{m_picture.right(), m_picture.top()}, top},
+                   {{m_picture.left, m_picture.top()}, top}});
+}
+
 void FlatShading::shadedPolygon(const std::vector<ShadedCorner>& corners)
 {
     paint(m_sink, corners, m_step, Most_cuts);

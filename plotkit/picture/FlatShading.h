@@ -12,7 +12,8 @@ public:
     /** @param step  the largest difference of a colour's component within a part, from 0 to 1 */
     explicit FlatShading(PictureSink& sink, float step = 0.03f) : m_sink(sink), m_step(step) {}
 
-    void begin(const PageLayout& page) override { m_sink.begin(page); }
+    void begin(const PageLayout& page) override;
+    void ground(const PageColor& bottom, const PageColor& top) override;
     void polygon(const std::vector<PagePoint>& corners, const PageColor& color) override
     {
         m_sink.polygon(corners, color);
@@ -31,5 +32,6 @@ public:
 
 private:
     PictureSink& m_sink;
+    PageRect m_picture;
     float m_step;
 };

@@ -49,6 +49,8 @@ public:
     virtual ~PictureSink() = default;
 
     virtual void begin(const PageLayout& page) = 0;
+    /** Fills the picture's rectangle, evenly from one colour at its lower end to another at the upper one. */
+    virtual void ground(const PageColor& bottom, const PageColor& top) = 0;
     /** A convex polygon of one colour. */
     virtual void polygon(const std::vector<PagePoint>& corners, const PageColor& color) = 0;
     /** A convex polygon whose colour changes evenly between its corners. */

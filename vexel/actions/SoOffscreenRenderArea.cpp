@@ -8,43 +8,12 @@
 #include <QtGui/QImageWriter>
 
 #include <vexel/actions/SoGLRenderAction.h>
-#include <vexel/actions/SoSearchAction.h>
+#include <vexel/actions/SoViewableScene.h>
 #include <vexel/base/SbString.h>
 #include <vexel/base/SoDebugError.h>
-#include <vexel/nodes/SoDirectionalLight.h>
-#include <vexel/nodes/SoPerspectiveCamera.h>
 #include <vexel/nodes/SoSeparator.h>
 #include <vexel/render/GLContext.h>
 #include <vexel/render/OffscreenTarget.h>
-
-namespace {
-
-bool contains(SoNode* root, SoType type)
-{
-    SoSearchAction search;
-    search.setType(type);
-    search.setInterest(SoSearchAction::FIRST);
-    search.apply(root);
-    return search.getPath() != nullptr;
-}
-
-// The graph behind a camera and a light, as far as it has none of its own; the graph itself stays as it is.
-SoSeparator* viewOf(SoNode* root, const SbViewportRegion& region)
-{
-    auto* view = new SoSeparator;
-    view->ref();
-    if (!contains(root, SoCamera::getClassTypeId())) {
-        auto* camera = new SoPerspectiveCamera;
-        view->addChild(camera);
-        camera->viewAll(root, region);
-    }
-    if (!contains(root, SoLight::getClassTypeId()))
-        view->addChild(new SoDirectionalLight);
-    view->addChild(root);
-    return view;
-}
-
-} // namespace
 
 SoOffscreenRenderArea::SoOffscreenRenderArea() = default;
 
@@ -96,13 +65,12 @@ QImage SoOffscreenRenderArea::render()
         return QImage();
     }
     target.bind();
-    SoSeparator* view = viewOf(m_root, m_region);
+    const SoViewableScene view(m_root, m_region);
     SoGLRenderAction action(m_region);
     action.setBackgroundColor(m_backgroundColor);
-    action.apply(view);
+    action.apply(view.root());
     QImage image = target.image();
     action.releaseGraphics();
-    view->unref();
     return image;
 }
 

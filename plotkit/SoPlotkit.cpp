@@ -1,0 +1,4 @@
+#include "SoPlotkit.h"
+
+void SoPlotkit::init() {}
+void SoPlotkit::finish() {}

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <plotkit/hidden/SurfaceTriangle.h>
+#include <plotkit/picture/PictureSink.h>
+
+#include <vector>
+
+/** A scene as it lies on the page, nothing of it hidden yet, in the order of its drawing. */
+struct PagePrimitives {
+    struct Triangle {
+        SurfaceTriangle surface;
+        std::array<PageColor, 3> colors; ///< of the surface's corners
+    };
+    struct Segment {
+        std::array<PagePoint, 2> ends;
+        std::array<double, 2> depths;
+        LineStyle style;
+    };
+    struct Dot {
+        PagePoint middle;
+        double depth = 0;
+        double diameter = 0;
+        PageColor color;
+    };
+    struct Text {
+        PageText text;
+        double depth = 0;
+    };
+
+    std::vector<Triangle> triangles;
+    std::vector<Segment> segments;
+    std::vector<Dot> dots;
+    std::vector<Text> texts;
+};

@@ -1,0 +1,39 @@
+#include "PageProjection.h"
+
+#include <vexel/state/SoState.h>
+
+PageProjection::PageProjection(const SoState& state, const PageRect& picture)
+    : m_matrix(state->viewVolume.getMatrix()), m_picture(picture)
+{
+    for (int i = 0; i < state->numClipPlanes; ++i)
+        m_planes.push_back(state.getClipPlane(i).plane);
+}
+
+PageProjection::Homogeneous PageProjection::clip(const SbVec3f& p) const
+{
+    const auto column = [&](int i) {
+        return double(p[0]) * double(m_matrix[0][i]) + double(p[1]) * double(m_matrix[1][i]) +
+               double(p[2]) * double(m_matrix[2][i]) + double(m_matrix[3][i]);
+    };
+    return {column(0), column(1), column(2), column(3)};
+}
+
+double PageProjection::distance(std::size_t bound, const SbVec3f& world) const
+{
+    if (bound >= View_bounds)
+        return double(m_planes[bound - View_bounds].getDistance(world));
+    const Homogeneous at = clip(world);
+    const double coordinates[] = {at.x, at.y, at.z};
+    const double coordinate = coordinates[bound / 2];
+    return bound % 2 ? at.w - coordinate : at.w + coordinate;
+}
+
+ProjectedPoint PageProjection::project(const SbVec3f& world) const
+{
+    const Homogeneous at = clip(world);
+    ProjectedPoint point;
+    point.place.x = m_picture.left + (at.x / at.w + 1) / 2 * m_picture.width;
+    point.place.y = m_picture.bottom + (at.y / at.w + 1) / 2 * m_picture.height;
+    point.depth = at.z / at.w;
+    return point;
+}
