@@ -14,6 +14,20 @@
 #include <QVBoxLayout>
 #include <utility>
 
+namespace {
+
+/** Asks for a height in which most editors need not be scrolled, also before one is shown. */
+class PanelContent : public QWidget {
+public:
+    QSize sizeHint() const override
+    {
+        constexpr int Lines = 26;
+        return {QWidget::sizeHint().width(), fontMetrics().lineSpacing() * Lines};
+    }
+};
+
+} // namespace
+
 FieldEditorPanel::FieldEditorPanel(Info info)
     : NscExtension(std::move(info)), m_dock(new QDockWidget(tr("Field Editor"))), m_header(new FieldHeader),
       m_place(new QScrollArea), m_hint(new QLabel(tr("Select a field to edit it here.")))
@@ -25,7 +39,7 @@ FieldEditorPanel::FieldEditorPanel(Info info)
     m_hint->setAlignment(Qt::AlignCenter);
     m_hint->setWordWrap(true);
     m_hint->setEnabled(false); // it is no value
-    auto* const content = new QWidget;
+    auto* const content = new PanelContent;
     auto* const rows = new QVBoxLayout(content);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
