@@ -22,6 +22,13 @@ struct PagePrimitives {
         double diameter = 0;
         PageColor color;
     };
+    /** A small picture of one colour that keeps its size. */
+    struct Sign {
+        PagePoint middle;
+        double depth = 0;
+        std::vector<PageRect> parts;
+        PageColor color;
+    };
     struct Text {
         PageText text;
         double depth = 0;
@@ -30,5 +37,6 @@ struct PagePrimitives {
     std::vector<Triangle> triangles;
     std::vector<Segment> segments;
     std::vector<Dot> dots;
+    std::vector<Sign> signs;
     std::vector<Text> texts;
 };

@@ -1,9 +1,29 @@
 #include "PageProjection.h"
 
+#include <vexel/nodes/SoCamera.h>
 #include <vexel/state/SoState.h>
 
+namespace {
+
+/** The part of the picture that the camera fills. */
+PageRect viewOf(const SoState& state, const PageRect& picture)
+{
+    if (!state->camera)
+        return picture;
+    const SbViewportRegion& region = state.getViewportRegion();
+    const SbViewportRegion view = state->camera->getViewportBounds(region);
+    const SbVec2s from = view.getViewportOriginPixels() - region.getViewportOriginPixels();
+    const SbVec2s size = view.getViewportSizePixels();
+    const SbVec2s whole = region.getViewportSizePixels();
+    const double x = picture.width / whole[0];
+    const double y = picture.height / whole[1];
+    return {picture.left + from[0] * x, picture.bottom + from[1] * y, size[0] * x, size[1] * y};
+}
+
+} // namespace
+
 PageProjection::PageProjection(const SoState& state, const PageRect& picture)
-    : m_matrix(state->viewVolume.getMatrix()), m_picture(picture)
+    : m_matrix(state->viewVolume.getMatrix()), m_picture(viewOf(state, picture))
 {
     for (int i = 0; i < state->numClipPlanes; ++i)
         m_planes.push_back(state.getClipPlane(i).plane);

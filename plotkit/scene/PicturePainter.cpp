@@ -138,7 +138,7 @@ void PicturePainter::paintPart(const PagePrimitives::Triangle& triangle, const s
 
 void PicturePainter::paintLines(const PagePrimitives& primitives, const std::vector<SurfaceTriangle>& surfaces)
 {
-    if (primitives.segments.empty() && primitives.dots.empty() && primitives.texts.empty())
+    if (primitives.segments.empty() && primitives.dots.empty() && primitives.signs.empty() && primitives.texts.empty())
         return;
     const VisibleLines visible(surfaces);
     {
@@ -156,6 +156,16 @@ void PicturePainter::paintLines(const PagePrimitives& primitives, const std::vec
     for (const PagePrimitives::Dot& dot : primitives.dots) {
         if (visible.isVisible(dot.middle, dot.depth))
             m_sink.dot(dot.middle, dot.diameter, dot.color);
+    }
+    for (const PagePrimitives::Sign& sign : primitives.signs) {
+        if (!visible.isVisible(sign.middle, sign.depth))
+            continue;
+        for (const PageRect& part : sign.parts)
+            m_sink.polygon({{part.left, part.bottom},
+                            {part.right(), part.bottom},
+                            {part.right(), part.top()},
+                            {part.left, part.top()}},
+                           sign.color);
     }
     for (const PagePrimitives::Text& text : primitives.texts) {
         if (visible.isVisible(text.text.place, text.depth))

@@ -3,10 +3,16 @@
 #include "LinePattern.h"
 
 #include <vexel/nodes/SoDrawStyle.h>
+#include <vexel/nodes/SoMarkerSet.h>
 #include <vexel/nodes/SoShape.h>
 #include <vexel/nodes/SoShapeHints.h>
+#include <vexel/nodes/SoStateFont.h>
+#include <vexel/nodes/SoText2.h>
 #include <vexel/state/SoState.h>
 
+#include <QFont>
+#include <QFontInfo>
+#include <QFontMetricsF>
 #include <algorithm>
 #include <utility>
 
@@ -14,6 +20,8 @@ namespace {
 
 /** Depth by which lines and points are nearer than surfaces on which they lie. */
 constexpr double Line_lead = 2e-5;
+/** Pixels of the font with which the width of a text is measured. */
+constexpr int Measured_size = 256;
 
 double turn(const PagePoint& a, const PagePoint& b, const PagePoint& c)
 {
@@ -24,7 +32,7 @@ double turn(const PagePoint& a, const PagePoint& b, const PagePoint& c)
 
 ShapeWriter::ShapeWriter(const SoState& state, const SoShape& shape, const PageRect& picture, double pixel,
                          PagePrimitives& primitives)
-    : m_state(state), m_projection(state, picture), m_shader(state),
+    : m_state(state), m_shape(shape), m_projection(state, picture), m_shader(state),
       m_refiner(m_projection, m_shader, [this](const TriangleRefiner::Corners& corners) { addPart(corners); }),
       m_pixel(pixel), m_primitives(primitives)
 {
@@ -39,6 +47,10 @@ ShapeWriter::ShapeWriter(const SoState& state, const SoShape& shape, const PageR
 
 void ShapeWriter::write()
 {
+    if (m_shape.isOfType(SoText2::getClassTypeId()) && !m_geometry.isEmpty()) {
+        addText(static_cast<const SoText2&>(m_shape));
+        return;
+    }
     switch (m_state->drawStyle) {
     case SoDrawStyle::INVISIBLE:
         return;
@@ -56,7 +68,44 @@ void ShapeWriter::write()
     for (std::size_t i = 0; i + 1 < m_geometry.lines.size(); i += 2)
         addSegment(m_geometry.lines[i], m_geometry.lines[i + 1]);
     for (const std::uint32_t index : m_geometry.pointVertices)
-        addPoint(index);
+        addPoint(index, m_geometry.markers.empty() ? -1 : m_geometry.markers[index]);
+}
+
+/** Texts that face the viewer stay texts. */
+void ShapeWriter::addText(const SoText2& text)
+{
+    if (m_state->drawStyle == SoDrawStyle::INVISIBLE)
+        return;
+    std::vector<SurfacePoint> origin(1);
+    m_state->model.multVecMatrix(SbVec3f(0, 0, 0), origin[0].place);
+    origin[0].normal = m_shader.towardsEye(origin[0].place);
+    const SurfaceMaterial material = SurfaceMaterial::of(m_state, 0);
+    origin[0].base = SbVec4f(material.diffuse[0], material.diffuse[1], material.diffuse[2], material.alpha);
+    origin = inPicture(std::move(origin), false);
+    if (origin.empty())
+        return;
+    const ProjectedPoint at = m_projection.project(origin[0].place);
+    QFont font = soStateFont(m_state);
+    PagePrimitives::Text line;
+    line.depth = at.depth - Line_lead;
+    line.text.size = double(m_state->fontSize * m_state.getViewportRegion().getPixelsPerPoint()) * m_pixel;
+    line.text.family = QFontInfo(font).family();
+    line.text.isBold = font.bold();
+    line.text.isItalic = font.italic();
+    line.text.color = m_shader.color(origin[0]);
+    font.setPixelSize(Measured_size);
+    const QFontMetricsF metrics(font);
+    for (int i = 0; i < text.string.getNum(); ++i) {
+        line.text.text = text.string[i].toQString();
+        line.text.width = metrics.horizontalAdvance(line.text.text) / Measured_size * line.text.size;
+        const int justification = text.justification.getValue();
+        const double left = justification == SoText2::RIGHT    ? line.text.width
+                            : justification == SoText2::CENTER ? line.text.width / 2
+                                                               : 0;
+        line.text.place = {at.place.x - left, at.place.y - i * double(text.spacing.getValue()) * line.text.size};
+        if (!line.text.text.isEmpty())
+            m_primitives.texts.push_back(line);
+    }
 }
 
 SurfacePoint ShapeWriter::pointOf(std::uint32_t index) const
@@ -68,6 +117,9 @@ SurfacePoint ShapeWriter::pointOf(std::uint32_t index) const
     point.normal.normalize();
     if (!m_geometry.textureCoordinates.empty())
         point.textureCoordinate = m_geometry.textureCoordinates[index];
+    if (m_shader.texture())
+        point.textureCoordinate =
+            m_shader.texture().coordinate(point.textureCoordinate, m_geometry.points[index], point.normal);
     const int material = m_geometry.materialIndices.empty() ? 0 : int(m_geometry.materialIndices[index]);
     const SurfaceMaterial its = SurfaceMaterial::of(m_state, material);
     point.base = SbVec4f(its.diffuse[0], its.diffuse[1], its.diffuse[2], its.alpha);
@@ -177,13 +229,32 @@ void ShapeWriter::addSegment(std::uint32_t from, std::uint32_t to)
                                      lineStyle(colorOf(ends[0].towards(ends[1], 0.5f)))});
 }
 
-void ShapeWriter::addPoint(std::uint32_t index)
+void ShapeWriter::addPoint(std::uint32_t index, int marker)
 {
     const std::vector<SurfacePoint> points = inPicture({pointOf(index)}, false);
     if (points.empty())
         return;
-    const ProjectedPoint at = m_projection.project(points[0].place);
+    ProjectedPoint at = m_projection.project(points[0].place);
+    at.depth -= Line_lead;
+    const PageColor color = colorOf(points[0]);
+    if (marker >= 0) {
+        addSign(at, marker, color);
+        return;
+    }
     const float size = m_state->pointSize;
-    m_primitives.dots.push_back(
-        {at.place, at.depth - Line_lead, double(size > 0 ? size : 1) * m_pixel, colorOf(points[0])});
+    m_primitives.dots.push_back({at.place, at.depth, double(size > 0 ? size : 1) * m_pixel, color});
+}
+
+void ShapeWriter::addSign(const ProjectedPoint& at, int marker, const PageColor& color)
+{
+    PagePrimitives::Sign sign{at.place, at.depth, {}, color};
+    const int size = SoMarkerSet::getNumPixels(marker);
+    for (int row = 0; row < size; ++row) {
+        for (int column = 0; column < size; ++column) {
+            if (SoMarkerSet::hasPixel(marker, column, row))
+                sign.parts.push_back({at.place.x + (column - size / 2.0) * m_pixel,
+                                      at.place.y + (size / 2.0 - row - 1) * m_pixel, m_pixel, m_pixel});
+        }
+    }
+    m_primitives.signs.push_back(std::move(sign));
 }

@@ -6,6 +6,7 @@
 #include <vexel/state/SoShapeGeometry.h>
 
 class SoShape;
+class SoText2;
 
 /** Lays one shape on the page. */
 class ShapeWriter {
@@ -22,13 +23,17 @@ private:
     PageColor colorOf(const SurfacePoint& point) const;
     LineStyle lineStyle(const PageColor& color) const;
 
+    void addText(const SoText2& text);
     void addTriangle(const std::uint32_t* indices);
     void addPart(const TriangleRefiner::Corners& corners);
     void addEdges();
     void addSegment(std::uint32_t from, std::uint32_t to);
-    void addPoint(std::uint32_t index);
+    /** @param marker  the sign that it is drawn as; -1: a dot */
+    void addPoint(std::uint32_t index, int marker = -1);
+    void addSign(const ProjectedPoint& at, int marker, const PageColor& color);
 
     const SoState& m_state;
+    const SoShape& m_shape;
     PageProjection m_projection;
     SurfaceShader m_shader;
     TriangleRefiner m_refiner;

@@ -8,11 +8,11 @@
 namespace {
 
 /** Millimetres below which an edge is not cut. */
-constexpr double Least_edge = 0.6;
+constexpr double Least_edge = 0.4;
 /** Millimetres up to which the middle of an edge tells how even the colour of a detailed surface is. */
-constexpr double Telling_edge = 8;
+constexpr double Telling_edge = 4;
 constexpr float Even = 0.02f;
-constexpr int Most_cuts = 9;
+constexpr int Most_cuts = 10;
 
 double distance(const ShadedPoint& a, const ShadedPoint& b)
 {

@@ -8,6 +8,16 @@
 #include <vexel/state/SoShapeGeometry.h>
 #include <vexel/state/SoState.h>
 
+int SoMarkerSet::getNumPixels(int marker)
+{
+    return markerBitmap(marker).size;
+}
+
+bool SoMarkerSet::hasPixel(int marker, int column, int row)
+{
+    return (markerBitmap(marker).rows[static_cast<std::size_t>(row)] >> column & 1) != 0;
+}
+
 int SoMarkerSet::markerAt(int point) const
 {
     const int num = markerIndex.getNum();

@@ -47,6 +47,11 @@ public:
     /** 5, 7 or 9 pixels wide. */
     enum Size { SIZE_5_5, SIZE_7_7, SIZE_9_9, NumSizes };
     static constexpr int markerOf(Sign sign, Size size) { return sign + size * NumSigns; }
+    /** Width and height of a sign in pixels, and whether one of them is part of it; rows from the top. */
+    ///@{
+    static int getNumPixels(int marker);
+    static bool hasPixel(int marker, int column, int row);
+    ///@}
 
     /** The sign of each point, by markerOf(); the last one is for all points that follow. A negative number
      *  shows none, one beyond the last sign shows the first. */

@@ -8,7 +8,7 @@
 #include <vexel/base/SbString.h>
 #include <vexel/base/SoDebugError.h>
 #include <vexel/fields/SoMFString.h>
-#include <vexel/nodes/SoFontStyle.h>
+#include <vexel/nodes/SoStateFont.h>
 #include <vexel/state/SoState.h>
 
 namespace {
@@ -28,39 +28,15 @@ bool canUseFonts()
     return !isReported;
 }
 
-QFont fontOf(const SoState& state)
-{
-    QFont font;
-    if (state->fontFamily >= 0) {
-        static constexpr QFont::StyleHint Hints[] = {QFont::Serif, QFont::SansSerif, QFont::TypeWriter};
-        static const char* const Names[] = {"Serif", "Sans Serif", "Monospace"};
-        const int family = state->fontFamily <= SoFontStyle::TYPEWRITER ? state->fontFamily : 0;
-        font.setFamily(QLatin1String(Names[family]));
-        font.setStyleHint(Hints[family]);
-        font.setBold((state->fontStyle & SoFontStyle::BOLD) != 0);
-        font.setItalic((state->fontStyle & SoFontStyle::ITALIC) != 0);
-    } else {
-        const QString name = state->fontName.toQString();
-        const QString family = name.section(QLatin1Char(':'), 0, 0);
-        const QString style = name.section(QLatin1Char(':'), 1);
-        if (family != QLatin1String("defaultFont"))
-            font.setFamily(family);
-        font.setBold(style.contains(QLatin1String("Bold"), Qt::CaseInsensitive));
-        font.setItalic(style.contains(QLatin1String("Italic"), Qt::CaseInsensitive) ||
-                       style.contains(QLatin1String("Oblique"), Qt::CaseInsensitive));
-    }
-    font.setPixelSize(OutlineSize);
-    font.setHintingPreference(QFont::PreferNoHinting);
-    return font;
-}
-
 } // namespace
 
 TextOutline::TextOutline(const SoState& state, const SoMFString& strings)
 {
     if (strings.getNum() == 0 || !canUseFonts())
         return;
-    const QFont font = fontOf(state);
+    QFont font = soStateFont(state);
+    font.setPixelSize(OutlineSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
     const QFontMetricsF metrics(font);
     const qreal scale = 1.0 / OutlineSize;
     for (int i = 0; i < strings.getNum(); ++i) {
