@@ -30,3 +30,8 @@ bool SoToPDFAction::closeFile()
 {
     return m_output->closeFile();
 }
+
+SbString SoToPDFAction::getErrorText() const
+{
+    return m_output->getErrorText();
+}

@@ -16,6 +16,7 @@ public:
     ///@{
     bool openFile(const SbString& fileName);
     bool closeFile();
+    SbString getErrorText() const;
     ///@}
 
 private:

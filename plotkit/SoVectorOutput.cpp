@@ -1,20 +1,17 @@
 #include "SoVectorOutput.h"
 
-#include <vexel/base/SbString.h>
-#include <vexel/base/SoDebugError.h>
-
 SoVectorOutput::~SoVectorOutput() = default;
 
 bool SoVectorOutput::openFile(const SbString& fileName)
 {
     cancelFile();
     m_file.setFileName(fileName.toQString());
-    return m_file.open(QIODevice::WriteOnly) || fail("SoVectorOutput::openFile");
+    return m_file.open(QIODevice::WriteOnly);
 }
 
 bool SoVectorOutput::closeFile()
 {
-    return m_file.commit() || fail("SoVectorOutput::closeFile");
+    return m_file.commit();
 }
 
 void SoVectorOutput::cancelFile()
@@ -25,9 +22,7 @@ void SoVectorOutput::cancelFile()
     m_file.commit();
 }
 
-bool SoVectorOutput::fail(const char* method)
+SbString SoVectorOutput::getErrorText() const
 {
-    SoDebugError::post(method, "cannot write \"%s\": %s", m_file.fileName().toUtf8().constData(),
-                       m_file.errorString().toUtf8().constData());
-    return false;
+    return "cannot write \"" + m_file.fileName() + "\": " + m_file.errorString();
 }

@@ -2,10 +2,11 @@
 
 #include <plotkit/PlotkitApi.h>
 
+#include <vexel/base/SbString.h>
+
 #include <QSaveFile>
 
 class PictureSink;
-class SbString;
 
 /**
  * The file that a picture goes to. The file appears under its name when it is complete, in closeFile(); until then, and
@@ -17,10 +18,12 @@ public:
     SoVectorOutput& operator=(const SoVectorOutput&) = delete;
     virtual ~SoVectorOutput();
 
-    /** Begins a file; one that is open is given up. False, with an SoDebugError, when it can't be written there. */
+    /** Begins a file; one that is open is given up. False when it can't be written there. */
     bool openFile(const SbString& fileName);
-    /** Completes the file. False, with an SoDebugError, when something could not be written, or nothing was drawn. */
+    /** Completes the file. False when something could not be written, or nothing was drawn. */
     bool closeFile();
+    /** Why the last openFile() or closeFile() failed, with the name of the file. */
+    SbString getErrorText() const;
     /** Ends without a file. */
     void cancelFile();
     bool isOpen() const { return m_file.isOpen(); }
@@ -35,7 +38,5 @@ protected:
     QIODevice& device() { return m_file; }
 
 private:
-    bool fail(const char* method);
-
     QSaveFile m_file;
 };

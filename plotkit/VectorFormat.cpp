@@ -31,14 +31,19 @@ class FileExport : public ActionExport<Action> {
 public:
     bool openFile(const SbString& fileName) override { return this->m_action.openFile(fileName); }
     bool closeFile() override { return this->m_action.closeFile(); }
+    SbString getErrorText() const override { return this->m_action.getErrorText(); }
 };
 
 /** Of an action whose output has the file. */
 template <class Action, auto getOutput>
 class OutputExport : public ActionExport<Action> {
 public:
-    bool openFile(const SbString& fileName) override { return (this->m_action.*getOutput)()->openFile(fileName); }
-    bool closeFile() override { return (this->m_action.*getOutput)()->closeFile(); }
+    bool openFile(const SbString& fileName) override { return m_output.openFile(fileName); }
+    bool closeFile() override { return m_output.closeFile(); }
+    SbString getErrorText() const override { return m_output.getErrorText(); }
+
+private:
+    SoVectorOutput& m_output = *(this->m_action.*getOutput)();
 };
 
 template <class Export>

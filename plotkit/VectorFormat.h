@@ -16,11 +16,13 @@ public:
     VectorExport& operator=(const VectorExport&) = delete;
     virtual ~VectorExport() = default;
 
-    /** False, with an SoDebugError, when the file can't be written there. */
+    /** False when the file can't be written there. */
     virtual bool openFile(const SbString& fileName) = 0;
     virtual void apply(SoNode* root) = 0;
-    /** False, with an SoDebugError, when something could not be written. */
+    /** False when something could not be written, or the drawing was ended by the progress callback. */
     virtual bool closeFile() = 0;
+    /** Why the last openFile() or closeFile() failed, with the name of the file. */
+    virtual SbString getErrorText() const = 0;
     virtual void setProgressCallback(SoVectorizeAction::ProgressCB progress) = 0;
     /** For formats that have paper or a ground; see SoVectorizeAction. */
     virtual void setBackgroundColor(const std::optional<SbColorRGBA>& color) = 0;

@@ -36,5 +36,5 @@ int runExport(const Arguments& arguments)
         isWritten = output->closeFile();
     }
     SoPlotkit::finish();
-    return isWritten ? file.status() : Unreadable;
+    return isWritten ? file.status() : complain(output->getErrorText().toUtf8().constData());
 }
