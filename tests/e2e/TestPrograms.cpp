@@ -59,6 +59,11 @@ const std::vector<ProgramRow>& rows()
          "^available at first: no\navailable then: yes\nbefore: not running\nstarted: running\nserved: running\n"
          "stopped: not running\nstarted: running\nserved: running\nstopped: not running\nreferences: 1\n",
          ""},
+        {"HostThatEndsWhileItIsInspected",
+         {"e2e_ending_host"},
+         0,
+         "^served: 1\nwithout a scene manager: 0\nreferences: 1\nserved: 1\n",
+         ""},
         {"TheLastOfTwoFilesIsOpened", {"e2e_standalone_host", "@/good.vx", "@/other.vx"}, 0, "^open: @/other.vx\n", ""},
     };
     return Table;
