@@ -5,6 +5,8 @@
 #include <vexel/base/SbString.h>
 #include <vexel/nodes/SoSeparator.h>
 
+#include <cstdio>
+
 namespace {
 
 std::string knownEnds()
@@ -36,5 +38,8 @@ int runExport(const Arguments& arguments)
         isWritten = output->closeFile();
     }
     SoPlotkit::finish();
-    return isWritten ? file.status() : complain(output->getErrorText().toUtf8().constData());
+    if (isWritten)
+        return file.status();
+    std::fprintf(stderr, "vexel: %s\n", output->getErrorText().toUtf8().constData());
+    return Unreadable;
 }

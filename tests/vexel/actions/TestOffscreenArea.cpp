@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <QtCore/QDir>
+#include <QtCore/QFile>
 #include <QtCore/QTemporaryDir>
 #include <QtGui/QImage>
 
@@ -56,6 +58,44 @@ TEST_F(OffscreenArea, RefusesUnknownFormatsAndPlacesThatCannotBeWritten)
     EXPECT_FALSE(area->renderToFile(file("cube.png")));
     area->setSceneGraph(nullptr);
     EXPECT_TRUE(area->render().isNull());
+}
+
+TEST_F(OffscreenArea, DrawsALargePictureInPiecesThatFit)
+{
+    // The large picture, made small again, is the small picture.
+    area->setViewportRegion(SbViewportRegion(150, 100));
+    const QImage small = area->render();
+    area->setViewportRegion(SbViewportRegion(4500, 3000));
+    const QImage large = area->render();
+    ASSERT_EQ(QSize(4500, 3000), large.size());
+    const QImage reduced = large.scaled(small.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    int different = 0;
+    for (int y = 0; y < small.height(); ++y) {
+        for (int x = 0; x < small.width(); ++x)
+            different += std::abs(qRed(reduced.pixel(x, y)) - qRed(small.pixel(x, y))) > 40;
+    }
+    EXPECT_LT(different, small.width()); // edges only
+    EXPECT_GT(qRed(small.pixel(75, 50)), 100);
+}
+
+TEST_F(OffscreenArea, WritesPostScript)
+{
+    ASSERT_TRUE(area->renderToFile(file("cube.ps")));
+    QFile page(folder.filePath("cube.ps"));
+    ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+    const QByteArray text = page.readAll();
+    EXPECT_TRUE(text.startsWith("%!PS-Adobe-3.0"));
+    EXPECT_TRUE(text.contains("%%BoundingBox: 0 0 64 48") || text.contains("%%PageBoundingBox: 0 0 64 48"));
+    EXPECT_TRUE(text.trimmed().endsWith("%%EOF"));
+}
+
+TEST_F(OffscreenArea, LeavesTheOldFileWhereTheNewOneCannotBeWritten)
+{
+    ASSERT_TRUE(area->renderToFile(file("cube.png")));
+    area->setViewportRegion(SbViewportRegion(0, 0));
+    EXPECT_FALSE(area->renderToFile(file("cube.png")));
+    EXPECT_EQ(QSize(64, 48), QImage(folder.filePath("cube.png")).size());
+    EXPECT_EQ(1, QDir(folder.path()).entryList(QDir::Files).size());
 }
 
 } // namespace
