@@ -63,6 +63,12 @@ const std::vector<VectorFormat>& VectorFormat::all()
     return Formats;
 }
 
+const VectorFormat* VectorFormat::named(std::string_view name)
+{
+    const auto found = std::find_if(all().begin(), all().end(), [&](const auto& format) { return format.name == name; });
+    return found == all().end() ? nullptr : &*found;
+}
+
 const VectorFormat* VectorFormat::ofFile(std::string_view fileName)
 {
     const auto ends = [&](const VectorFormat& format) {

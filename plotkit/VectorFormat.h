@@ -35,6 +35,8 @@ struct PLOTKIT_API VectorFormat {
     std::unique_ptr<VectorExport> (*create)();
 
     static const std::vector<VectorFormat>& all();
+    /** Null: there is none of that name. */
+    static const VectorFormat* named(std::string_view name);
     /** That of a file name's end, in capitals too; null: none. */
     static const VectorFormat* ofFile(std::string_view fileName);
 };

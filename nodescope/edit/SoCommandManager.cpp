@@ -115,6 +115,16 @@ void SoCommandManager::reloadFile()
     m_frame->sceneFiles()->reload();
 }
 
+void SoCommandManager::printFile()
+{
+    emit m_frame->exportRequested();
+}
+
+void SoCommandManager::printQt()
+{
+    emit m_frame->printRequested();
+}
+
 void SoCommandManager::closeApp()
 {
     m_frame->close();

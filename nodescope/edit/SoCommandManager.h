@@ -55,6 +55,8 @@ public slots:
     void saveFile();
     void saveAsFile();
     void closeFile();
+    void printFile();
+    void printQt();
 
     /** Exchanges the node selected in the 3D view with the system clipboard; not undoable. */
     ///@{

@@ -54,6 +54,11 @@ public:
 signals:
     /** The window is being closed: save what is to be kept. The inspector stops after this. */
     void quitRequested();
+    /** What is shown shall be written into a picture file, or printed. */
+    ///@{
+    void exportRequested();
+    void printRequested();
+    ///@}
 
 public slots:
     void on_toggleFilterAction_toggled(bool isOn);

@@ -1,4 +1,7 @@
 #include "SoNodescopeViewer.h"
+#include "PictureExport.h"
+#include "PicturePrinter.h"
+#include "ShownPicture.h"
 #include "SoNodescopeMainFrame.h"
 #include "detail/HighlightChoice.h"
 #include "detail/NodeKeeper.h"
@@ -70,6 +73,8 @@ SoNodescopeViewer::SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImp
     registerTreeState();
     registerWatchState();
     m_frame.setSceneFiles(&m_sceneFiles);
+    connect(&m_frame, &SoNodescopeMainFrame::exportRequested, this, &SoNodescopeViewer::printFile);
+    connect(&m_frame, &SoNodescopeMainFrame::printRequested, this, &SoNodescopeViewer::printQt);
     m_services.getCommandManager()->setTreeView(m_treeView);
     m_services.getCommandManager()->setNodeEdition(m_edition);
 }
@@ -217,6 +222,24 @@ SoNode* SoNodescopeViewer::scene() const
 bool SoNodescopeViewer::isModified() const
 {
     return m_services.getCommandManager()->isModified();
+}
+
+/** With the camera and the light of the view, which the scene may lack. */
+ShownPicture SoNodescopeViewer::shownPicture() const
+{
+    const SoSceneManager* const manager = m_services.getSceneManager();
+    SoNode* const root = manager ? manager->getSceneGraph() : nullptr;
+    return {root ? *root : *m_selection, manager};
+}
+
+void SoNodescopeViewer::printFile()
+{
+    PictureExport::printFile(m_frame, shownPicture(), m_sceneFiles.currentFile());
+}
+
+void SoNodescopeViewer::printQt()
+{
+    PicturePrinter::preview(m_frame, shownPicture());
 }
 
 void SoNodescopeViewer::pick(const SbViewportRegion& region, SbVec2s cursor)

@@ -20,6 +20,7 @@ class SoQtExaminerViewer;
 class SoSelection;
 class SoTreeViewItem;
 class PanelPages;
+class ShownPicture;
 
 /**
  * The displayed scene: the selection node that stands above it, the tree view and the docks that show it, and its
@@ -48,6 +49,11 @@ public:
      * host's viewer uses the mouse for its camera. */
     void pick(const SbViewportRegion& region, SbVec2s cursor);
 
+    /** Asks for a file and writes what is shown into it; see PictureExport. */
+    void printFile();
+    /** Shows what is shown on a page, and prints it; see PicturePrinter. */
+    void printQt();
+
     SoNode* scene() const override;
     void setSceneGraph(SoNode* root, bool resetCommands) override;
     bool isModified() const override;
@@ -55,6 +61,7 @@ public:
 private:
     SoNodescopeViewer(SoNodescopeMainFrame& frame, NscServicesImpl& services);
 
+    ShownPicture shownPicture() const;
     void makePanels();
     void makeExaminer();
     void makeEdition();
