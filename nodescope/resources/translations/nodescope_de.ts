@@ -579,7 +579,7 @@ Sie ist, wie sie vorher war.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Choose a filename to export under</source>
