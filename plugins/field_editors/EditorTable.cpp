@@ -1,5 +1,6 @@
 #include "EditorTable.h"
 
+#include <plugins/field_editors/editors/FieldEditor.h>
 #include <plugins/field_editors/editors/ListEditor.h>
 #include <plugins/field_editors/editors/SingleEditor.h>
 #include <plugins/field_editors/lists/FileTextColumns.h>
@@ -56,56 +57,70 @@
 #include <vexel/fields/SoSFVec4f.h>
 #include <vexel/fields/SoSField.h>
 
+#include <utility>
+
 namespace {
 
 using Info = NscExtension::Info;
 
+/** An editor for exactly the type of a field. */
+template <class Field>
+NscExtension* exact(const Info& info, FieldEditor::MakeWidget makeWidget)
+{
+    return new FieldEditor(info, Field::getClassTypeId(), true, std::move(makeWidget));
+}
+
 template <class Field, class Widget>
 NscExtension* single(const Info& info)
 {
-    return new SingleEditor(info, Field::getClassTypeId(), true, new Widget);
+    return exact<Field>(info, [] { return new SingleEditor(new Widget); });
 }
 
 template <class Field>
 NscExtension* numbers(const Info& info)
 {
-    return new SingleEditor(info, Field::getClassTypeId(), true, new NumbersWidget(NumberAccess::of<Field>()));
+    return exact<Field>(info, [] { return new SingleEditor(new NumbersWidget(NumberAccess::of<Field>())); });
 }
 
 template <class Field>
 NscExtension* box(const Info& info)
 {
-    return new SingleEditor(info, Field::getClassTypeId(), true, new BoxWidget(NumberAccess::of<Field>()));
+    return exact<Field>(info, [] { return new SingleEditor(new BoxWidget(NumberAccess::of<Field>())); });
 }
 
 template <class List, class Single, class Widget>
 NscExtension* numberListWith(const Info& info)
 {
-    return new ListEditor(info, List::getClassTypeId(), true, std::make_unique<NumberColumns<List, Single>>(),
-                          new Widget);
+    return exact<List>(info,
+                       [] { return new ListEditor(std::make_unique<NumberColumns<List, Single>>(), new Widget); });
 }
 
 template <class List, class Single>
 NscExtension* numberList(const Info& info)
 {
-    return new ListEditor(info, List::getClassTypeId(), true, std::make_unique<NumberColumns<List, Single>>(),
-                          new NumbersWidget(NumberAccess::of<Single>(), Qt::Horizontal));
+    return exact<List>(info, [] {
+        return new ListEditor(std::make_unique<NumberColumns<List, Single>>(),
+                              new NumbersWidget(NumberAccess::of<Single>(), Qt::Horizontal));
+    });
 }
 
 NscExtension* stringList(const Info& info)
 {
-    return new ListEditor(info, SoMFString::getClassTypeId(), true,
-                          std::make_unique<StringColumns<SoMFString, SoSFString>>(), new StringWidget);
+    return exact<SoMFString>(info, [] {
+        return new ListEditor(std::make_unique<StringColumns<SoMFString, SoSFString>>(), new StringWidget);
+    });
 }
 
 NscExtension* anySingle(const Info& info)
 {
-    return new SingleEditor(info, SoSField::getClassTypeId(), false, new FileTextWidget);
+    return new FieldEditor(info, SoSField::getClassTypeId(), false,
+                           [] { return new SingleEditor(new FileTextWidget); });
 }
 
 NscExtension* anyList(const Info& info)
 {
-    return new ListEditor(info, SoMField::getClassTypeId(), false, std::make_unique<FileTextColumns>(), nullptr);
+    return new FieldEditor(info, SoMField::getClassTypeId(), false,
+                           [] { return new ListEditor(std::make_unique<FileTextColumns>(), nullptr); });
 }
 
 struct Row {

@@ -1,9 +1,7 @@
 #include "ListEditor.h"
 
-#include "EditorParts.h"
 #include "KnownRanges.h"
 
-#include <extension/NscShell.h>
 #include <plugins/field_editors/lists/ListColumns.h>
 #include <plugins/field_editors/lists/ListTable.h>
 #include <plugins/field_editors/values/ProblemLine.h>
@@ -13,10 +11,9 @@
 #include <QVBoxLayout>
 #include <utility>
 
-ListEditor::ListEditor(Info info, SoType type, bool isExact, std::unique_ptr<ListColumns> columns, ValueWidget* values)
-    : NscFieldEditor(std::move(info)), m_type(type), m_isExact(isExact), m_columns(std::move(columns)),
-      m_widget(new QWidget), m_table(new ListTable(m_binding, *m_columns)), m_values(values), m_count(new QLabel),
-      m_problem(new ProblemLine)
+ListEditor::ListEditor(std::unique_ptr<ListColumns> columns, ValueWidget* values)
+    : m_columns(std::move(columns)), m_table(new ListTable(m_binding, *m_columns)), m_values(values),
+      m_count(new QLabel), m_problem(new ProblemLine)
 {
     layOut();
     connect(m_table, &ListTable::problemChanged, m_problem, &ProblemLine::setProblem);
@@ -25,21 +22,19 @@ ListEditor::ListEditor(Info info, SoType type, bool isExact, std::unique_ptr<Lis
     connect(&m_binding, &FieldBinding::valueChanged, this, &ListEditor::showValue);
     if (!m_values)
         return;
-    connectGestures(*m_values, m_binding);
+    connectGestures(*m_values);
     connect(m_values, &ValueWidget::edited, this, &ListEditor::takeValue);
     connect(m_values, &ValueWidget::problemChanged, m_problem, &ProblemLine::setProblem);
 }
 
 ListEditor::~ListEditor()
 {
-    if (NscShell* const shell = NscShell::getInstance())
-        shell->unregisterExtension(this);
-    delete m_widget;
+    delete m_table; // which works with the columns and the binding
 }
 
 void ListEditor::layOut()
 {
-    auto* const rows = new QVBoxLayout(m_widget);
+    auto* const rows = new QVBoxLayout(this);
     auto* const parts = new QSplitter(Qt::Vertical);
     parts->setChildrenCollapsible(false);
     parts->addWidget(m_table);
@@ -49,11 +44,6 @@ void ListEditor::layOut()
     rows->addWidget(parts, 1);
     rows->addWidget(m_problem);
     rows->addWidget(m_count);
-}
-
-void ListEditor::activate()
-{
-    NscShell::getInstance()->registerExtension(m_type, m_isExact, this);
 }
 
 void ListEditor::showField()

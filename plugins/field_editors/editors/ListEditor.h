@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QPointer>
-#include <extension/NscFieldEditor.h>
 #include <memory>
-#include <plugins/field_editors/edit/FieldBinding.h>
-#include <vexel/base/SoType.h>
+#include <plugins/field_editors/editors/EditorWidget.h>
 
 class ListColumns;
 class ListTable;
@@ -13,19 +10,12 @@ class QLabel;
 class ValueWidget;
 
 /** Edits the values of a list field in a table, and the current one with a widget for values of its type. */
-class ListEditor : public NscFieldEditor {
+class ListEditor : public EditorWidget {
     Q_OBJECT
 public:
-    /**
-     * @param isExact  false: for derived types as well
-     * @param values   null: the table is all
-     */
-    ListEditor(Info info, SoType type, bool isExact, std::unique_ptr<ListColumns> columns, ValueWidget* values);
+    /** @param values  null: the table is all */
+    ListEditor(std::unique_ptr<ListColumns> columns, ValueWidget* values);
     ~ListEditor() override;
-
-    void activate() override;
-    QWidget* getWidget() override { return m_widget; }
-    void setField(SoField* field) override { m_binding.setField(field); }
 
 private:
     void layOut();
@@ -35,11 +25,7 @@ private:
     void takeValue(const SoField& value);
     const SoMField* list() const { return static_cast<const SoMField*>(m_binding.field()); }
 
-    SoType m_type;
-    bool m_isExact;
-    FieldBinding m_binding;
     std::unique_ptr<ListColumns> m_columns;
-    QPointer<QWidget> m_widget;
     ListTable* m_table;
     ValueWidget* m_values;
     QLabel* m_count;

@@ -1,6 +1,7 @@
 #include "HostState.h"
 #include "InspectionFixture.h"
 
+#include <extension/NscPluginsManager.h>
 #include <vexel/base/SoErrorStack.h>
 #include <vexel/nodes/SoCube.h>
 #include <vexel/viewer/SoQtExaminerViewer.h>
@@ -12,7 +13,8 @@
 namespace {
 
 constexpr int Warm_up = 20;
-constexpr int Rounds = 200; // in each way, a thousand altogether
+constexpr int Rounds = 200;
+constexpr int Many_rounds = 1000;
 /** What a round may leave behind at most, for what Qt and the allocator keep; a window takes some hundred kilobytes. */
 constexpr std::size_t Most_bytes_a_round = 1000;
 
@@ -33,7 +35,7 @@ protected:
     }
 
     template <class Start>
-    void startAndStop(Start start)
+    void startAndStop(Start start, int rounds = Rounds)
     {
         const auto round = [&] {
             start();
@@ -47,11 +49,11 @@ protected:
         QPixmapCache::clear(); // which Qt keeps within its limit by itself
         const HostState before(*m_root, m_window);
         const std::size_t bytesBefore = mallinfo2().uordblks;
-        for (int i = 0; i < Rounds; ++i)
+        for (int i = 0; i < rounds; ++i)
             round();
         QPixmapCache::clear();
         const std::size_t bytesAfter = mallinfo2().uordblks;
-        EXPECT_LT(bytesAfter, bytesBefore + Rounds * Most_bytes_a_round);
+        EXPECT_LT(bytesAfter, bytesBefore + std::size_t(rounds) * Most_bytes_a_round);
         HostState(*m_root, m_window).expectSameAs(before);
     }
 
@@ -85,4 +87,16 @@ TEST_F(ManyStarts, OfASceneManager)
 TEST_F(ManyStarts, ByTheKeyOfAViewer)
 {
     startAndStop([this] { QTest::keyClick(m_viewer.getGLWidget(), Qt::Key_F12, Qt::ShiftModifier); });
+}
+
+TEST_F(ManyStarts, WithTheFieldEditors)
+{
+    SoPreferences::removeValue("VXL_NODESCOPE_CONFIGURATION_FILE"); // so that the built-in one counts
+    startAndStop(
+        [this] {
+            _startNode(m_root, nullptr);
+            NscServices::getInstance()->setSelectedField(&m_cube->width);
+            EXPECT_TRUE(NscPluginsManager::getInstance()->getProblems().empty());
+        },
+        Many_rounds);
 }
