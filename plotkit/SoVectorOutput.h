@@ -1,10 +1,6 @@
 #pragma once
 
-#include <plotkit/PlotkitApi.h>
-
-#include <vexel/base/SbString.h>
-
-#include <QSaveFile>
+#include <plotkit/AtomicFile.h>
 
 class PictureSink;
 
@@ -19,13 +15,13 @@ public:
     virtual ~SoVectorOutput();
 
     /** Begins a file; one that is open is given up. False when it can't be written there. */
-    bool openFile(const SbString& fileName);
+    bool openFile(const SbString& fileName) { return m_file.open(fileName); }
     /** Completes the file. False when something could not be written, or nothing was drawn. */
-    bool closeFile();
+    bool closeFile() { return m_file.close(); }
     /** Why the last openFile() or closeFile() failed, with the name of the file. */
-    SbString getErrorText() const;
+    SbString getErrorText() const { return m_file.getErrorText(); }
     /** Ends without a file. */
-    void cancelFile();
+    void cancelFile() { m_file.cancel(); }
     bool isOpen() const { return m_file.isOpen(); }
 
     /** What draws into the open file; for actions. */
@@ -35,8 +31,8 @@ protected:
     SoVectorOutput() = default;
 
     /** The open file; what fails to be written is found in closeFile(). */
-    QIODevice& device() { return m_file; }
+    QIODevice& device() { return m_file.device(); }
 
 private:
-    QSaveFile m_file;
+    AtomicFile m_file;
 };

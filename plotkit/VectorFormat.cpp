@@ -1,5 +1,6 @@
 #include "VectorFormat.h"
 #include "SoToPDFAction.h"
+#include "SoToU3DAction.h"
 #include "SoVectorizePSAction.h"
 
 #include <vexel/base/SbString.h>
@@ -46,6 +47,23 @@ private:
     SoVectorOutput& m_output = *(this->m_action.*getOutput)();
 };
 
+/** Of the format in which the scene stays a scene, with no ground behind it. */
+class SceneExport : public VectorExport {
+public:
+    bool openFile(const SbString& fileName) override { return m_action.openFile(fileName); }
+    void apply(SoNode* root) override { m_action.apply(root); }
+    bool closeFile() override { return m_action.closeFile(); }
+    SbString getErrorText() const override { return m_action.getErrorText(); }
+    void setProgressCallback(SoVectorizeAction::ProgressCB progress) override
+    {
+        m_action.setProgressCallback(std::move(progress));
+    }
+    void setBackgroundColor(const std::optional<SbColorRGBA>&) override {}
+
+private:
+    SoToU3DAction m_action;
+};
+
 template <class Export>
 std::unique_ptr<VectorExport> make()
 {
@@ -58,6 +76,7 @@ const std::vector<VectorFormat>& VectorFormat::all()
 {
     static const std::vector<VectorFormat> Formats{
         {"PDF", ".pdf", make<FileExport<SoToPDFAction>>},
+        {"U3D", ".u3d", make<SceneExport>},
         {"PS", ".ps", make<OutputExport<SoVectorizePSAction, &SoVectorizePSAction::getPSVectorOutput>>},
     };
     return Formats;

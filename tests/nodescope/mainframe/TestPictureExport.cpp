@@ -107,6 +107,7 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{"pdf", "report", "PDF - using Plotkit", "report.pdf", "%PDF"},
                     NameRow{"pdfInTheName", "report.pdf.txt", "PDF - using Plotkit", "report.pdf.txt", "%PDF"},
                     NameRow{"capitals", "report.PDF", "PDF - using Plotkit", "report.PDF.pdf", "%PDF"},
+                    NameRow{"scene", "report", "U3D - using Plotkit", "report.u3d", "U3D"},
                     NameRow{"vectorPostScript", "a.b", "PS - using Plotkit", "a.b.ps", "%!PS"}),
     [](const auto& test) { return std::string(test.param.test); });
 

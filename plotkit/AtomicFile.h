@@ -1,0 +1,29 @@
+#pragma once
+
+#include <plotkit/PlotkitApi.h>
+#include <vexel/base/SbString.h>
+
+#include <QSaveFile>
+
+/**
+ * A file that appears under its name when it is complete; until then, and after a failure, a file that was there before
+ * stays as it is.
+ */
+class PLOTKIT_API AtomicFile {
+public:
+    /** Begins a file; one that is open is given up. False when it can't be written there. */
+    bool open(const SbString& fileName);
+    /** Completes the file. False when something could not be written, or none is open. */
+    bool close() { return m_file.commit(); }
+    /** Why the last open() or close() failed, with the name of the file. */
+    SbString getErrorText() const;
+    /** Ends without a file. */
+    void cancel();
+    bool isOpen() const { return m_file.isOpen(); }
+
+    /** The open file; what fails to be written is found in close(). */
+    QIODevice& device() { return m_file; }
+
+private:
+    QSaveFile m_file;
+};

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+inline void require(bool isRight, const std::string& problem)
+{
+    if (!isRight)
+        throw std::runtime_error(problem);
+}
