@@ -1,5 +1,7 @@
 #pragma once
 
+#include <plotkit/PlotkitApi.h>
+
 #include <vector>
 
 /** The patterns of lines: 16 bits, each for a piece of a line, seen where it is set. */
@@ -7,6 +9,6 @@ namespace LinePattern {
 
 /** Lengths of strokes and gaps in turns, beginning with a stroke, in pieces; empty for a line without gaps. The pattern
  * is not 0. */
-std::vector<double> dashes(unsigned pattern);
+PLOTKIT_API std::vector<double> dashes(unsigned pattern);
 
 } // namespace LinePattern
