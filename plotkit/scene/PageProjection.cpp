@@ -48,6 +48,15 @@ double PageProjection::distance(std::size_t bound, const SbVec3f& world) const
     return bound % 2 ? at.w - coordinate : at.w + coordinate;
 }
 
+bool PageProjection::contains(const SbVec3f& world) const
+{
+    for (std::size_t bound = 0; bound < numBounds(); ++bound) {
+        if (distance(bound, world) < 0)
+            return false;
+    }
+    return true;
+}
+
 ProjectedPoint PageProjection::project(const SbVec3f& world) const
 {
     const Homogeneous at = clip(world);

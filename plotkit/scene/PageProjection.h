@@ -28,6 +28,7 @@ public:
     std::size_t numBounds() const { return View_bounds + m_planes.size(); }
     double distance(std::size_t bound, const SbVec3f& world) const;
     ///@}
+    bool contains(const SbVec3f& world) const;
 
     /** For a point inside. */
     ProjectedPoint project(const SbVec3f& world) const;

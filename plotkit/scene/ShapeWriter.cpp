@@ -1,27 +1,20 @@
 #include "ShapeWriter.h"
 
+#include "LineLead.h"
 #include "LinePattern.h"
+#include "TextWriter.h"
 
 #include <vexel/nodes/SoDrawStyle.h>
 #include <vexel/nodes/SoMarkerSet.h>
 #include <vexel/nodes/SoShape.h>
 #include <vexel/nodes/SoShapeHints.h>
-#include <vexel/nodes/SoStateFont.h>
 #include <vexel/nodes/SoText2.h>
 #include <vexel/state/SoState.h>
 
-#include <QFont>
-#include <QFontInfo>
-#include <QFontMetricsF>
 #include <algorithm>
 #include <utility>
 
 namespace {
-
-/** Depth by which lines and points are nearer than surfaces on which they lie. */
-constexpr double Line_lead = 2e-5;
-/** Pixels of the font with which the width of a text is measured. */
-constexpr int Measured_size = 256;
 
 double turn(const PagePoint& a, const PagePoint& b, const PagePoint& c)
 {
@@ -48,7 +41,9 @@ ShapeWriter::ShapeWriter(const SoState& state, const SoShape& shape, const PageR
 void ShapeWriter::write()
 {
     if (m_shape.isOfType(SoText2::getClassTypeId()) && !m_geometry.isEmpty()) {
-        addText(static_cast<const SoText2&>(m_shape));
+        if (m_state->drawStyle != SoDrawStyle::INVISIBLE)
+            TextWriter(m_state, m_projection, m_shader, m_pixel)
+                .write(static_cast<const SoText2&>(m_shape), m_primitives);
         return;
     }
     switch (m_state->drawStyle) {
@@ -69,43 +64,6 @@ void ShapeWriter::write()
         addSegment(m_geometry.lines[i], m_geometry.lines[i + 1]);
     for (const std::uint32_t index : m_geometry.pointVertices)
         addPoint(index, m_geometry.markers.empty() ? -1 : m_geometry.markers[index]);
-}
-
-/** Texts that face the viewer stay texts. */
-void ShapeWriter::addText(const SoText2& text)
-{
-    if (m_state->drawStyle == SoDrawStyle::INVISIBLE)
-        return;
-    std::vector<SurfacePoint> origin(1);
-    m_state->model.multVecMatrix(SbVec3f(0, 0, 0), origin[0].place);
-    origin[0].normal = m_shader.towardsEye(origin[0].place);
-    const SurfaceMaterial material = SurfaceMaterial::of(m_state, 0);
-    origin[0].base = SbVec4f(material.diffuse[0], material.diffuse[1], material.diffuse[2], material.alpha);
-    origin = inPicture(std::move(origin), false);
-    if (origin.empty())
-        return;
-    const ProjectedPoint at = m_projection.project(origin[0].place);
-    QFont font = soStateFont(m_state);
-    PagePrimitives::Text line;
-    line.depth = at.depth - Line_lead;
-    line.text.size = double(m_state->fontSize * m_state.getViewportRegion().getPixelsPerPoint()) * m_pixel;
-    line.text.family = QFontInfo(font).family();
-    line.text.isBold = font.bold();
-    line.text.isItalic = font.italic();
-    line.text.color = m_shader.color(origin[0]);
-    font.setPixelSize(Measured_size);
-    const QFontMetricsF metrics(font);
-    for (int i = 0; i < text.string.getNum(); ++i) {
-        line.text.text = text.string[i].toQString();
-        line.text.width = metrics.horizontalAdvance(line.text.text) / Measured_size * line.text.size;
-        const int justification = text.justification.getValue();
-        const double left = justification == SoText2::RIGHT    ? line.text.width
-                            : justification == SoText2::CENTER ? line.text.width / 2
-                                                               : 0;
-        line.text.place = {at.place.x - left, at.place.y - i * double(text.spacing.getValue()) * line.text.size};
-        if (!line.text.text.isEmpty())
-            m_primitives.texts.push_back(line);
-    }
 }
 
 SurfacePoint ShapeWriter::pointOf(std::uint32_t index) const

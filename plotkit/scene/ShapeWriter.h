@@ -6,7 +6,6 @@
 #include <vexel/state/SoShapeGeometry.h>
 
 class SoShape;
-class SoText2;
 
 /** Lays one shape on the page. */
 class ShapeWriter {
@@ -23,7 +22,6 @@ private:
     PageColor colorOf(const SurfacePoint& point) const;
     LineStyle lineStyle(const PageColor& color) const;
 
-    void addText(const SoText2& text);
     void addTriangle(const std::uint32_t* indices);
     void addPart(const TriangleRefiner::Corners& corners);
     void addEdges();
