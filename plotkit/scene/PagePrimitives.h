@@ -7,10 +7,6 @@
 
 /** A scene as it lies on the page, nothing of it hidden yet, in the order of its drawing. */
 struct PagePrimitives {
-    struct Triangle {
-        SurfaceTriangle surface;
-        std::array<PageColor, 3> colors; ///< of the surface's corners
-    };
     struct Segment {
         std::array<PagePoint, 2> ends;
         std::array<double, 2> depths;
@@ -34,7 +30,8 @@ struct PagePrimitives {
         double depth = 0;
     };
 
-    std::vector<Triangle> triangles;
+    std::vector<SurfaceTriangle> surfaces;
+    std::vector<std::array<PageColor, 3>> surfaceColors; ///< of the corners of each surface
     std::vector<Segment> segments;
     std::vector<Dot> dots;
     std::vector<Sign> signs;

@@ -82,48 +82,47 @@ PicturePainter::PicturePainter(PictureSink& sink, ProgressCB progress) : m_sink(
 
 bool PicturePainter::paint(const PagePrimitives& primitives)
 {
-    std::vector<SurfaceTriangle> surfaces;
-    surfaces.reserve(primitives.triangles.size());
-    for (const PagePrimitives::Triangle& triangle : primitives.triangles)
-        surfaces.push_back(triangle.surface);
     std::vector<Part> transparent;
-    if (!paintSurfaces(primitives, surfaces, transparent))
+    if (!paintSurfaces(primitives, transparent))
         return false;
-    paintLines(primitives, surfaces);
+    paintLines(primitives);
     std::stable_sort(transparent.begin(), transparent.end(),
                      [](const Part& a, const Part& b) { return a.depth > b.depth; });
     for (const Part& part : transparent)
-        paintPart(primitives.triangles[part.index], part.corners);
+        paintPart(primitives, part.index, part.corners);
     return true;
 }
 
-bool PicturePainter::paintSurfaces(const PagePrimitives& primitives, const std::vector<SurfaceTriangle>& surfaces,
-                                   std::vector<Part>& transparent)
+bool PicturePainter::paintSurfaces(const PagePrimitives& primitives, std::vector<Part>& transparent)
 {
-    VisibleSurfaces visible(surfaces);
+    VisibleSurfaces visible(primitives.surfaces);
     return visible.find(
         [&](std::size_t index, const std::vector<PagePoint>& corners) {
-            const PagePrimitives::Triangle& triangle = primitives.triangles[index];
-            if (triangle.surface.isOpaque) {
-                paintPart(triangle, corners);
+            const SurfaceTriangle& surface = primitives.surfaces[index];
+            if (surface.isOpaque) {
+                paintPart(primitives, index, corners);
                 return;
             }
             double depth = 0;
             for (const PagePoint& corner : corners)
-                depth += triangle.surface.depth.at(corner) / double(corners.size());
+                depth += surface.depth.at(corner) / double(corners.size());
             transparent.push_back({index, corners, depth});
         },
         m_progress);
 }
 
-void PicturePainter::paintPart(const PagePrimitives::Triangle& triangle, const std::vector<PagePoint>& corners)
+void PicturePainter::paintPart(const PagePrimitives& primitives, std::size_t index,
+                               const std::vector<PagePoint>& corners)
 {
-    const auto& [a, b, c] = triangle.colors;
-    if (isOneColor(triangle.colors)) {
+    const std::array<PageColor, 3>& colors = primitives.surfaceColors[index];
+    const auto& [a, b, c] = colors;
+    if (isOneColor(colors)) {
         m_sink.polygon(corners, a);
         return;
     }
-    const auto component = [&](float PageColor::*part) { return over(triangle.surface, a.*part, b.*part, c.*part); };
+    const auto component = [&](float PageColor::*part) {
+        return over(primitives.surfaces[index], a.*part, b.*part, c.*part);
+    };
     const Linear red = component(&PageColor::red);
     const Linear green = component(&PageColor::green);
     const Linear blue = component(&PageColor::blue);
@@ -136,11 +135,11 @@ void PicturePainter::paintPart(const PagePrimitives::Triangle& triangle, const s
     m_sink.shadedPolygon(shaded);
 }
 
-void PicturePainter::paintLines(const PagePrimitives& primitives, const std::vector<SurfaceTriangle>& surfaces)
+void PicturePainter::paintLines(const PagePrimitives& primitives)
 {
     if (primitives.segments.empty() && primitives.dots.empty() && primitives.signs.empty() && primitives.texts.empty())
         return;
-    const VisibleLines visible(surfaces);
+    const VisibleLines visible(primitives.surfaces);
     {
         LineJoiner lines(m_sink);
         for (const PagePrimitives::Segment& segment : primitives.segments) {

@@ -18,10 +18,9 @@ public:
 private:
     struct Part;
 
-    bool paintSurfaces(const PagePrimitives& primitives, const std::vector<SurfaceTriangle>& surfaces,
-                       std::vector<Part>& transparent);
-    void paintLines(const PagePrimitives& primitives, const std::vector<SurfaceTriangle>& surfaces);
-    void paintPart(const PagePrimitives::Triangle& triangle, const std::vector<PagePoint>& corners);
+    bool paintSurfaces(const PagePrimitives& primitives, std::vector<Part>& transparent);
+    void paintLines(const PagePrimitives& primitives);
+    void paintPart(const PagePrimitives& primitives, std::size_t index, const std::vector<PagePoint>& corners);
 
     PictureSink& m_sink;
     ProgressCB m_progress;

@@ -137,10 +137,10 @@ void ShapeWriter::addPart(const TriangleRefiner::Corners& corners)
     const float leastAlpha = std::min({a.color.alpha, b.color.alpha, c.color.alpha});
     if (std::max({a.color.alpha, b.color.alpha, c.color.alpha}) <= 0)
         return;
-    m_primitives.triangles.push_back(
-        {SurfaceTriangle({a.projected.place, b.projected.place, c.projected.place},
-                         {a.projected.depth, b.projected.depth, c.projected.depth}, leastAlpha >= 1),
-         {a.color, b.color, c.color}});
+    m_primitives.surfaces.push_back({{a.projected.place, b.projected.place, c.projected.place},
+                                     {a.projected.depth, b.projected.depth, c.projected.depth},
+                                     leastAlpha >= 1});
+    m_primitives.surfaceColors.push_back({a.color, b.color, c.color});
 }
 
 void ShapeWriter::addEdges()
