@@ -54,7 +54,7 @@ private:
     /** Empty, with a problem, when there is no such attribute. */
     QString attribute(const char* name)
     {
-        const QString value = m_xml.attributes().value(QLatin1String(name)).toString();
+        QString value = m_xml.attributes().value(QLatin1String(name)).toString();
         if (value.isEmpty())
             addProblem("element '" + m_xml.name().toString() + "' has no attribute '" + name + '\'');
         return value;
