@@ -84,7 +84,8 @@ const std::vector<VectorFormat>& VectorFormat::all()
 
 const VectorFormat* VectorFormat::named(std::string_view name)
 {
-    const auto found = std::find_if(all().begin(), all().end(), [&](const auto& format) { return format.name == name; });
+    const auto found =
+        std::find_if(all().begin(), all().end(), [&](const auto& format) { return format.name == name; });
     return found == all().end() ? nullptr : &*found;
 }
 

@@ -8,6 +8,8 @@ namespace {
 
 constexpr std::uint32_t Utf8 = 106;
 constexpr std::uint64_t Header_size = 36;
+/** Sizes of blocks, and of all declarations, have 32 bits. */
+constexpr std::uint64_t Largest_size = 0xFFFFFFFF;
 
 // Attributes of models, their shading, lights and views.
 constexpr std::uint32_t Front = 1;
@@ -141,6 +143,8 @@ bool U3DDocument::write(QIODevice& device) const
     std::uint64_t declared = Header_size;
     for (const U3DBytes* const part : declarations)
         declared += part->size();
+    if (declared > Largest_size)
+        return false;
 
     U3DBitStream data;
     data.putU32(0); // version
@@ -157,7 +161,8 @@ bool U3DDocument::write(QIODevice& device) const
             return false;
     }
     for (std::size_t i = 0; i < m_models.numContinuations(); ++i) {
-        if (!writeBytes(device, m_models.continuation(i)))
+        const U3DBytes block = m_models.continuation(i);
+        if (block.size() > Largest_size || !writeBytes(device, block))
             return false;
     }
     return true;

@@ -47,7 +47,7 @@ public:
     void addLight(std::string_view wanted, const std::string& parent, const SbMatrix& matrix, const U3DLight& light);
     void addView(std::string_view wanted, const std::string& parent, const SbMatrix& matrix, const U3DView& view);
 
-    /** False when the device does not take it. */
+    /** False when the device does not take it, or something is larger than the format allows: 4 GB for a mesh. */
     bool write(QIODevice& device) const;
 
 private:
