@@ -1,6 +1,9 @@
 #include "VectorFormat.h"
 #include "SoToPDFAction.h"
 #include "SoToU3DAction.h"
+#include "SoVectorizeCGMAction.h"
+#include "SoVectorizeGDIAction.h"
+#include "SoVectorizeHPGLAction.h"
 #include "SoVectorizePSAction.h"
 
 #include <vexel/base/SbString.h>
@@ -78,6 +81,9 @@ const std::vector<VectorFormat>& VectorFormat::all()
         {"PDF", ".pdf", make<FileExport<SoToPDFAction>>},
         {"U3D", ".u3d", make<SceneExport>},
         {"PS", ".ps", make<OutputExport<SoVectorizePSAction, &SoVectorizePSAction::getPSVectorOutput>>},
+        {"CGM", ".cgm", make<OutputExport<SoVectorizeCGMAction, &SoVectorizeCGMAction::getCGMVectorOutput>>},
+        {"GDI", ".emf", make<OutputExport<SoVectorizeGDIAction, &SoVectorizeGDIAction::getGDIVectorOutput>>},
+        {"HPGL", ".hpgl", make<OutputExport<SoVectorizeHPGLAction, &SoVectorizeHPGLAction::getHPGLVectorOutput>>},
     };
     return Formats;
 }

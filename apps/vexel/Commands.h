@@ -18,6 +18,8 @@ int runInfo(const Arguments& arguments);
 int runCheck(const Arguments& arguments);
 int runConvert(const Arguments& arguments);
 int runExport(const Arguments& arguments);
+/** The ends of files that can be exported, for texts. */
+std::string exportedEnds();
 int runRender(const Arguments& arguments);
 
 /** Prints what is wrong with the command line; answers Unreadable. */

@@ -7,9 +7,7 @@
 
 #include <cstdio>
 
-namespace {
-
-std::string knownEnds()
+std::string exportedEnds()
 {
     std::string text;
     for (const VectorFormat& format : VectorFormat::all())
@@ -17,15 +15,13 @@ std::string knownEnds()
     return text;
 }
 
-} // namespace
-
 int runExport(const Arguments& arguments)
 {
     if (arguments.size() != 2)
         return complain("export needs a scene and a file to write");
     const VectorFormat* const format = VectorFormat::ofFile(arguments[1]);
     if (!format)
-        return complain("\"" + arguments[1] + "\" ends in none of " + knownEnds());
+        return complain("\"" + arguments[1] + "\" ends in none of " + exportedEnds());
     const SceneFile file(arguments[0]);
     if (!file.root())
         return file.status();

@@ -6,34 +6,41 @@
 #include <QGuiApplication>
 #include <cstdio>
 #include <optional>
+#include <vector>
 
 namespace {
 
 struct Command {
     const char* name;
     const char* usage;
-    const char* purpose;
+    std::string purpose;
     int (*run)(const Arguments& arguments);
     bool needsFonts;
 };
 
-const Command Commands[] = {
-    {"info", "info FILE", "what a scene consists of: nodes by type, triangles, box, depth, shared nodes", runInfo,
-     true},
-    {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column", runCheck,
-     false},
-    {"convert", "convert IN OUT [--ascii | --binary]",
-     "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise", runConvert,
-     false},
-    {"export", "export FILE OUT", "draws a scene into a file of lines and surfaces: .pdf, .ps", runExport, true},
-    {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender, true},
-};
+const std::vector<Command>& commands()
+{
+    static const std::vector<Command> Table{
+        {"info", "info FILE", "what a scene consists of: nodes by type, triangles, box, depth, shared nodes", runInfo,
+         true},
+        {"check", "check FILE...", "reads files and prints what is wrong with them, with file, line and column",
+         runCheck, false},
+        {"convert", "convert IN OUT [--ascii | --binary]",
+         "writes a scene anew, compressed when OUT ends in vxz or gz; in the form of IN unless told otherwise",
+         runConvert, false},
+        {"export", "export FILE OUT", "draws a scene into a file of lines and surfaces: " + exportedEnds(), runExport,
+         true},
+        {"render", "render FILE OUT.png [--size WxH]", "draws a scene into a picture, without a display", runRender,
+         true},
+    };
+    return Table;
+}
 
 void printUsage()
 {
     std::puts("Usage: vexel COMMAND ...\n\nWorks on Vexel scene files.\n");
-    for (const Command& command : Commands)
-        std::printf("  vexel %-36s %s\n", command.usage, command.purpose);
+    for (const Command& command : commands())
+        std::printf("  vexel %-36s %s\n", command.usage, command.purpose.c_str());
     std::puts("  vexel --help                               this text\n"
               "  vexel --version                            the version of the program\n\n"
               "Exit status: 0 when all was good, 1 when a file had errors and was read as far as possible,\n"
@@ -63,7 +70,7 @@ int main(int argc, char** argv)
         std::puts("vexel " NODESCOPE_VERSION);
         return All_good;
     }
-    for (const Command& command : Commands) {
+    for (const Command& command : commands()) {
         if (arguments[0] == command.name) {
             std::optional<QGuiApplication> application;
             if (command.needsFonts) {

@@ -11,6 +11,8 @@ using Component = float PageColor::*;
 constexpr Component Components[] = {&PageColor::red, &PageColor::green, &PageColor::blue, &PageColor::alpha};
 /** Halvings after which a polygon whose colours are no numbers is left as it is. */
 constexpr int Most_cuts = 12;
+/** The part of a step that those of the ground are: in its wide stripes smaller ones are seen. */
+constexpr float Ground_step = 0.125f;
 
 ShadedCorner between(const ShadedCorner& a, const ShadedCorner& b, float part)
 {
@@ -93,10 +95,12 @@ void FlatShading::begin(const PageLayout& page)
 
 void FlatShading::ground(const PageColor& bottom, const PageColor& top)
 {
-    shadedPolygon({{{m_picture.left, m_picture.bottom}, bottom},
-                   {{m_picture.right(), m_picture.bottom}, bottom},
-                   {{m_picture.right(), m_picture.top()}, top},
-                   {{m_picture.left, m_picture.top()}, top}});
+    paint(m_sink,
+          {{{m_picture.left, m_picture.bottom}, bottom},
+           {{m_picture.right(), m_picture.bottom}, bottom},
+           {{m_picture.right(), m_picture.top()}, top},
+           {{m_picture.left, m_picture.top()}, top}},
+          m_step * Ground_step, Most_cuts);
 }
 
 void FlatShading::shadedPolygon(const std::vector<ShadedCorner>& corners)

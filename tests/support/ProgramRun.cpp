@@ -7,6 +7,16 @@ namespace {
 
 constexpr int Deadline = 120000; // milliseconds; nothing is waited for that long unless it hangs
 
+ProgramRun runToItsEnd(QProcess& process)
+{
+    const bool hasEnded = process.waitForFinished(Deadline);
+    if (!hasEnded)
+        process.kill();
+    const bool isGood = hasEnded && process.exitStatus() == QProcess::NormalExit;
+    return {isGood ? process.exitCode() : -1, process.readAllStandardOutput().toStdString(),
+            process.readAllStandardError().toStdString()};
+}
+
 } // namespace
 
 void startProgram(QProcess& process, const QString& program, const QStringList& arguments)
@@ -22,12 +32,14 @@ ProgramRun runProgram(const QString& program, const QStringList& arguments)
 {
     QProcess process;
     startProgram(process, program, arguments);
-    const bool hasEnded = process.waitForFinished(Deadline);
-    if (!hasEnded)
-        process.kill();
-    const bool isGood = hasEnded && process.exitStatus() == QProcess::NormalExit;
-    return {isGood ? process.exitCode() : -1, process.readAllStandardOutput().toStdString(),
-            process.readAllStandardError().toStdString()};
+    return runToItsEnd(process);
+}
+
+ProgramRun runOtherProgram(const QString& program, const QStringList& arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    return runToItsEnd(process);
 }
 
 QByteArray contentOf(const QString& fileName)

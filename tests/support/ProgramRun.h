@@ -20,5 +20,8 @@ void startProgram(QProcess& process, const QString& program, const QStringList& 
 /** Runs one of the built programs to its end. */
 ProgramRun runProgram(const QString& program, const QStringList& arguments);
 
+/** Runs a program of the system to its end; it is sought in the path. */
+ProgramRun runOtherProgram(const QString& program, const QStringList& arguments);
+
 /** What stands in a file; nothing when there is none. */
 QByteArray contentOf(const QString& fileName);

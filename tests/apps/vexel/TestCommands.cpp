@@ -22,6 +22,7 @@ const std::vector<ProgramRow>& rows()
     static const std::vector<ProgramRow> Table{
         {"Help", {"vexel", "--help"}, 0, "vexel convert IN OUT", ""},
         {"HelpForACommand", {"vexel", "convert", "--help"}, 0, "Exit status: 0", ""},
+        {"HelpNamesTheFormatsOfPictures", {"vexel", "--help"}, 0, ".cgm, .emf, .hpgl", ""},
         {"Version", {"vexel", "--version"}, 0, "vexel " PROGRAM_VERSION "\n", ""},
         {"NoCommand", {"vexel"}, 2, "", "vexel: a command is missing; see vexel --help\n"},
         {"UnknownCommand", {"vexel", "explode"}, 2, "", "vexel: there is no command \"explode\"; see vexel --help\n"},
