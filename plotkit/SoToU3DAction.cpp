@@ -57,13 +57,11 @@ bool SoToU3DAction::write(SoNode& root)
         shapes.state().setViewportRegion(m_region);
         shapes.apply(scene.root());
     }
-    std::size_t done = 0;
-    const auto shapeDone = [&] {
-        ++done;
-        return !m_progress || m_progress(Collecting * double(done) / double(shapes.count()));
-    };
+    U3DProgress::Callback collected;
+    if (m_progress)
+        collected = [this](double part) { return m_progress(Collecting * part); };
+    U3DProgress progress(collected, shapes.count());
     U3DDocument document;
-    U3DCollector collector(document, m_region, scene.root(), shapeDone);
-    collector.apply(scene.root());
-    return !collector.isCanceled() && document.write(m_file.device()) && (!m_progress || m_progress(1));
+    U3DCollector(document, m_region, scene.root(), progress).apply(scene.root());
+    return !progress.isCanceled() && document.write(m_file.device()) && (!m_progress || m_progress(1));
 }

@@ -7,7 +7,6 @@
 namespace {
 
 constexpr std::uint32_t Top = 0x8000;
-constexpr std::uint32_t Second = 0x4000;
 /** Above this many values a static context is as good as none. */
 constexpr std::uint32_t Largest_range = 0x3FFE;
 
@@ -30,10 +29,21 @@ std::uint32_t mirrored16(std::uint32_t bits)
     return std::uint32_t(Mirrored[bits & 0xFF]) << 8 | Mirrored[bits >> 8];
 }
 
+/** Of a value that is not 0. */
+unsigned leadingZeros16(std::uint32_t bits)
+{
+    return unsigned(__builtin_clz(bits)) - 16;
+}
+
+std::uint32_t lowest(unsigned num)
+{
+    return (1u << num) - 1;
+}
+
 } // namespace
 
 /** Bits come lowest first; at most 16 at once. */
-void U3DBitStream::putBits(std::uint32_t bits, unsigned num)
+inline void U3DBitStream::putBits(std::uint32_t bits, unsigned num)
 {
     m_bits |= std::uint64_t(bits) << m_numBits;
     m_numBits += num;
@@ -44,26 +54,30 @@ void U3DBitStream::putBits(std::uint32_t bits, unsigned num)
 }
 
 /** Goes on with a part of the present range, which is given by its begin and end in it. */
-void U3DBitStream::narrow(std::uint32_t from, std::uint32_t to)
+inline void U3DBitStream::narrow(std::uint32_t from, std::uint32_t to)
 {
     m_high = m_low + to - 1;
     m_low += from;
     const std::uint32_t differing = m_low ^ m_high;
     if (!(differing & Top)) {
-        const unsigned num = differing == 0 ? 16 : unsigned(__builtin_clz(differing)) - 16;
-        const std::uint32_t leading = mirrored16(m_low);
-        putBits(leading & 1, 1);
-        for (; m_numPending > 0; --m_numPending)
-            putBits(~leading & 1, 1);
-        putBits((leading & ((1u << num) - 1)) >> 1, num - 1);
+        const unsigned num = differing == 0 ? 16 : leadingZeros16(differing);
+        const std::uint32_t leading = mirrored16(m_low) & lowest(num);
+        if (m_numPending == 0) {
+            putBits(leading, num);
+        } else {
+            putBits(leading & 1, 1);
+            for (; m_numPending > 0; --m_numPending)
+                putBits(~leading & 1, 1);
+            putBits(leading >> 1, num - 1);
+        }
         m_low = (m_low << num) & 0xFFFF;
-        m_high = ((m_high << num) | ((1u << num) - 1)) & 0xFFFF;
+        m_high = ((m_high << num) | lowest(num)) & 0xFFFF;
     }
-    while ((m_low & Second) && !(m_high & Second)) {
-        m_low = (m_low & (Second - 1)) << 1;
-        m_high = (m_high & (Second - 1)) << 1 | Top | 1;
-        ++m_numPending;
-    }
+    // From here on the bounds differ in the top bit; those that follow wait while low has 1 and high has 0.
+    const unsigned num = leadingZeros16(((~(m_low & ~m_high) << 1) & 0xFFFF) | 1);
+    m_low = (m_low << num) & (Top - 1);
+    m_high = ((m_high << num) & (Top - 1)) | lowest(num) | Top;
+    m_numPending += num;
 }
 
 void U3DBitStream::encode(std::uint32_t below, std::uint32_t count, std::uint32_t total)
@@ -74,10 +88,14 @@ void U3DBitStream::encode(std::uint32_t below, std::uint32_t count, std::uint32_
 
 void U3DBitStream::putU8(std::uint8_t value)
 {
-    if (m_low == 0 && m_high == 0xFFFF && m_numPending == 0 && m_numBits == 0)
+    if (m_low == 0 && m_high == 0xFFFF && m_numPending == 0 && m_numBits == 0) {
         m_bytes.push_back(value);
-    else
-        encode(Mirrored[value], 1, 256);
+        return;
+    }
+    // As encode() does for one of 256.
+    const std::uint32_t range = m_high - m_low + 1;
+    const std::uint32_t below = Mirrored[value];
+    narrow(range * below / 256, range * (below + 1) / 256);
 }
 
 void U3DBitStream::putU16(std::uint16_t value)
@@ -117,6 +135,8 @@ void U3DBitStream::putString(std::string_view text)
 bool U3DBitStream::putLearnt(std::uint32_t context, std::uint32_t value)
 {
     m_isCompressed = true;
+    if (m_histograms.size() <= context)
+        m_histograms.resize(context + 1);
     U3DHistogram& histogram = m_histograms[context];
     const bool isKnown = histogram.count(value + 1) > 0;
     const std::uint32_t put = isKnown ? value + 1 : 0;

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 using U3DBytes = std::vector<std::uint8_t>;
@@ -47,5 +46,5 @@ private:
     std::uint32_t m_high = 0xFFFF;
     std::uint32_t m_numPending = 0; ///< bits that are the opposite of the next one
     bool m_isCompressed = false;
-    std::unordered_map<std::uint32_t, U3DHistogram> m_histograms;
+    std::vector<U3DHistogram> m_histograms; ///< by their contexts
 };

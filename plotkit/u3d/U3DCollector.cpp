@@ -33,8 +33,8 @@ std::string_view nameOf(const SoNode& node)
 } // namespace
 
 U3DCollector::U3DCollector(U3DDocument& document, const SbViewportRegion& region, const SoNode* frame,
-                           ShapeCB shapeDone)
-    : m_document(document), m_frame(frame), m_shapeDone(std::move(shapeDone))
+                           U3DProgress& progress)
+    : m_document(document), m_frame(frame), m_progress(progress)
 {
     state().setViewportRegion(region);
 }
@@ -99,33 +99,33 @@ void U3DCollector::visitShape(SoShape& shape)
         addMesh(shape, built);
         addLines(shape, built);
     }
-    if (!m_shapeDone())
+    if (m_progress.isCanceled() || !m_progress.finishShape())
         setTerminated(true);
 }
 
 void U3DCollector::addMesh(const SoShape& shape, const U3DShape& built)
 {
-    U3DMesh mesh = built.mesh();
+    U3DMesh mesh = built.mesh(m_progress);
     if (mesh.faces.empty())
         return;
     const U3DShading shading = built.meshShading(mesh);
     if (!shading.hasVertexColors)
         mesh.colors.clear();
-    m_document.addModel(nameOf(shape), parentName(), fromGroup(state()->model), U3DModelKind::Mesh, encodeU3DMesh(mesh),
-                        {shading}, built.showsBacks());
+    m_document.addModel(nameOf(shape), parentName(), fromGroup(state()->model), U3DModelKind::Mesh,
+                        encodeU3DMesh(mesh, m_progress), {shading}, built.showsBacks());
 }
 
 void U3DCollector::addLines(const SoShape& shape, const U3DShape& built)
 {
     std::vector<U3DShading> shadings;
     SbVec3f origin;
-    const U3DLineSet lineSet = built.lineSet(shadings, origin);
+    const U3DLineSet lineSet = built.lineSet(shadings, origin, m_progress);
     if (lineSet.lines.empty())
         return;
     SbMatrix place;
     place.setTranslate(origin);
     m_document.addModel(nameOf(shape), parentName(), fromGroup(place * state()->model), U3DModelKind::LineSet,
-                        encodeU3DLineSet(lineSet), shadings);
+                        encodeU3DLineSet(lineSet, m_progress), shadings);
 }
 
 void U3DCollector::addLight(const SoLight& light)

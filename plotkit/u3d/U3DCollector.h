@@ -3,8 +3,6 @@
 #include <plotkit/u3d/U3DDocument.h>
 #include <vexel/actions/SoAction.h>
 
-#include <functional>
-
 class SoLight;
 class U3DShape;
 
@@ -12,13 +10,8 @@ class U3DShape;
 class U3DCollector : public SoAction {
     SO_ACTION(U3DCollector, SoAction)
 public:
-    /** Called after each shape; answering false ends the walk. */
-    using ShapeCB = std::function<bool()>;
-
     /** @param frame  a group around the graph that is no part of it */
-    U3DCollector(U3DDocument& document, const SbViewportRegion& region, const SoNode* frame, ShapeCB shapeDone);
-
-    bool isCanceled() const { return hasTerminated(); }
+    U3DCollector(U3DDocument& document, const SbViewportRegion& region, const SoNode* frame, U3DProgress& progress);
 
     void visitShape(SoShape& shape) override;
     void visitCamera(const SoCamera& camera) override;
@@ -49,7 +42,7 @@ private:
 
     U3DDocument& m_document;
     const SoNode* m_frame;
-    ShapeCB m_shapeDone;
+    U3DProgress& m_progress;
     std::vector<Level> m_levels;
     bool m_hasAmbientLight = false;
 };

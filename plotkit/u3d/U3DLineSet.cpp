@@ -80,7 +80,10 @@ std::vector<U3DLineSet::Line> sorted(const std::vector<U3DLineSet::Line>& given)
 
 class Encoder {
 public:
-    Encoder(const U3DLineSet& lineSet, float step) : m_lineSet(lineSet), m_step(step) {}
+    Encoder(const U3DLineSet& lineSet, float step, U3DProgress& progress)
+        : m_lineSet(lineSet), m_step(step), m_progress(progress)
+    {
+    }
 
     U3DBytes encode(const std::vector<U3DLineSet::Line>& lines)
     {
@@ -89,7 +92,7 @@ public:
         m_data.putU32(0);
         m_data.putU32(numPositions);
         auto line = lines.begin();
-        for (std::uint32_t i = 0; i < numPositions; ++i) {
+        for (std::uint32_t i = 0; i < numPositions && m_progress.goesOn(i, numPositions, 0.5, 1); ++i) {
             putPosition(i);
             const auto end = std::find_if(line, lines.end(), [&](const auto& other) { return other.to != i; });
             m_data.putDynamic(Number_context, std::uint32_t(end - line));
@@ -126,15 +129,16 @@ private:
 
     const U3DLineSet& m_lineSet;
     float m_step;
+    U3DProgress& m_progress;
     std::array<long, 3> m_last{};
     U3DBitStream m_data;
 };
 
 } // namespace
 
-U3DModelResource encodeU3DLineSet(const U3DLineSet& lineSet)
+U3DModelResource encodeU3DLineSet(const U3DLineSet& lineSet, U3DProgress& progress)
 {
     const float step = stepFor(lineSet.positions);
     const std::vector<U3DLineSet::Line> lines = sorted(lineSet.lines);
-    return {declarationOf(lineSet, lines.size(), step), Encoder(lineSet, step).encode(lines)};
+    return {declarationOf(lineSet, lines.size(), step), Encoder(lineSet, step, progress).encode(lines)};
 }

@@ -47,7 +47,7 @@ void putAll(U3DBitStream& data, const std::vector<Vec>& values, int size)
     }
 }
 
-U3DBytes continuationOf(const U3DMesh& mesh)
+U3DBytes continuationOf(const U3DMesh& mesh, U3DProgress& progress)
 {
     const auto numPositions = std::uint32_t(mesh.positions.size());
     const auto numNormals = std::uint32_t(mesh.normals.size());
@@ -63,9 +63,9 @@ U3DBytes continuationOf(const U3DMesh& mesh)
     putAll(data, mesh.positions, 3);
     putAll(data, mesh.normals, 3);
     putAll(data, mesh.colors, 4);
-    for (const std::array<U3DMesh::Corner, 3>& face : mesh.faces) {
+    for (std::size_t i = 0; i < mesh.faces.size() && progress.goesOn(i, mesh.faces.size(), 0.5, 1); ++i) {
         data.putDynamic(Shading_context, 0);
-        for (const U3DMesh::Corner& corner : face) {
+        for (const U3DMesh::Corner& corner : mesh.faces[i]) {
             data.putBelow(numPositions, corner.position);
             data.putBelow(numNormals, corner.normal);
             if (numColors > 0)
@@ -77,7 +77,7 @@ U3DBytes continuationOf(const U3DMesh& mesh)
 
 } // namespace
 
-U3DModelResource encodeU3DMesh(const U3DMesh& mesh)
+U3DModelResource encodeU3DMesh(const U3DMesh& mesh, U3DProgress& progress)
 {
-    return {declarationOf(mesh), continuationOf(mesh)};
+    return {declarationOf(mesh), continuationOf(mesh, progress)};
 }

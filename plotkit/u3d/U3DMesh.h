@@ -1,7 +1,7 @@
 #pragma once
 
-#include <plotkit/PlotkitApi.h>
 #include <plotkit/u3d/U3DBitStream.h>
+#include <plotkit/u3d/U3DProgress.h>
 #include <vexel/base/SbVec3f.h>
 #include <vexel/base/SbVec4f.h>
 
@@ -40,10 +40,14 @@ struct U3DModelResource {
     U3DBytes continuation;
 };
 
-/** All triangles are part of the base mesh, where positions and normals stand exactly. The mesh must not be empty. */
-PLOTKIT_API U3DModelResource encodeU3DMesh(const U3DMesh& mesh);
+/**
+ * All triangles are part of the base mesh, where positions and normals stand exactly. The mesh must not be empty. What
+ * is answered is incomplete when the progress is canceled.
+ */
+U3DModelResource encodeU3DMesh(const U3DMesh& mesh, U3DProgress& progress);
 /**
  * Positions are rounded by a millionth of the diagonal of the box around them at most, provided that no coordinate is
- * more than four times as large as the diagonal. The line set must not be empty.
+ * more than four times as large as the diagonal. The line set must not be empty. What is
+ * answered is incomplete when the progress is canceled.
  */
-PLOTKIT_API U3DModelResource encodeU3DLineSet(const U3DLineSet& lineSet);
+U3DModelResource encodeU3DLineSet(const U3DLineSet& lineSet, U3DProgress& progress);

@@ -132,13 +132,14 @@ private:
     U3DMesh m_mesh;
 };
 
-U3DMesh U3DShape::mesh() const
+U3DMesh U3DShape::mesh(U3DProgress& progress) const
 {
     if (m_state->drawStyle != SoDrawStyle::FILLED)
         return {};
     MeshBuilder builder(*this);
-    for (std::size_t i = 0; i + 2 < m_geometry.triangles.size(); i += 3)
-        builder.addTriangle(&m_geometry.triangles[i]);
+    const std::size_t numTriangles = m_geometry.getNumTriangles();
+    for (std::size_t i = 0; i < numTriangles && progress.goesOn(i, numTriangles, 0, 0.5); ++i)
+        builder.addTriangle(&m_geometry.triangles[3 * i]);
     return builder.take();
 }
 
@@ -210,7 +211,7 @@ private:
     U3DLineSet m_lineSet;
 };
 
-U3DLineSet U3DShape::lineSet(std::vector<U3DShading>& shadings, SbVec3f& origin) const
+U3DLineSet U3DShape::lineSet(std::vector<U3DShading>& shadings, SbVec3f& origin, U3DProgress& progress) const
 {
     LineBuilder builder(*this, shadings);
     if (m_state->linePattern == 0 || m_state->drawStyle == SoDrawStyle::POINTS)
@@ -223,7 +224,8 @@ U3DLineSet U3DShape::lineSet(std::vector<U3DShading>& shadings, SbVec3f& origin)
                 builder.addLine(m_geometry.triangles[i + k], m_geometry.triangles[i + (k + 1) % 3]);
         }
     }
-    for (std::size_t i = 0; i + 1 < m_geometry.lines.size(); i += 2)
-        builder.addLine(m_geometry.lines[i], m_geometry.lines[i + 1]);
+    const std::size_t numLines = m_geometry.getNumLines();
+    for (std::size_t i = 0; i < numLines && progress.goesOn(i, numLines, 0, 0.5); ++i)
+        builder.addLine(m_geometry.lines[2 * i], m_geometry.lines[2 * i + 1]);
     return builder.take(origin);
 }

@@ -15,8 +15,8 @@ class U3DShape {
 public:
     U3DShape(const SoState& state, const SoShape& shape);
 
-    /** Without faces where there are none. */
-    U3DMesh mesh() const;
+    /** Without faces where there are none. Incomplete when the progress is canceled, like the line set. */
+    U3DMesh mesh(U3DProgress& progress) const;
     U3DShading meshShading(const U3DMesh& mesh) const;
     bool showsBacks() const { return m_showsBacks; }
 
@@ -25,7 +25,7 @@ public:
      * @param shadings  receives those that the lines number
      * @param origin  receives the place that positions are relative to
      */
-    U3DLineSet lineSet(std::vector<U3DShading>& shadings, SbVec3f& origin) const;
+    U3DLineSet lineSet(std::vector<U3DShading>& shadings, SbVec3f& origin, U3DProgress& progress) const;
 
 private:
     class MeshBuilder;

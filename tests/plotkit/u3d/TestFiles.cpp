@@ -91,6 +91,37 @@ TEST_F(U3DFile, canBeCanceledAfterEachShape)
     }
 }
 
+TEST_F(U3DFile, canBeCanceledInTheMiddleOfALargeShape)
+{
+    std::string points;
+    std::string strip;
+    for (int i = 0; i < 70000; ++i)
+        points += std::to_string(i / 2) + " " + std::to_string(i % 2) + " 0,";
+    const ReadScene large = ReadScene::ofText("Coordinate3 { point [" + points +
+                                              "] } Separator { LineSet {} }"
+                                              "TriangleStripSet { numVertices 70000 }");
+    std::size_t numParts = 1000;
+    for (std::size_t last = 0; last < numParts; ++last) {
+        SoToU3DAction action;
+        ASSERT_TRUE(action.openFile(SbString(path("a.u3d"))));
+        std::vector<double> parts;
+        action.setProgressCallback([&](double part) {
+            parts.push_back(part);
+            return parts.size() != last;
+        });
+        action.apply(large.root());
+        EXPECT_TRUE(std::is_sorted(parts.begin(), parts.end()));
+        EXPECT_EQ(last == 0, action.closeFile());
+        if (last == 0)
+            numParts = parts.size();
+        EXPECT_EQ(last == 0 ? numParts : last, parts.size());
+        EXPECT_EQ(last == 0, files().contains("a.u3d"));
+        QFile::remove(path("a.u3d"));
+    }
+    // Some within each of two shapes, one after each of them, and the last one.
+    EXPECT_GE(numParts, 2u * 2 + 2 + 1);
+}
+
 TEST_F(U3DFile, isCompleteWhenProgressIs)
 {
     SoToU3DAction action;
