@@ -17,7 +17,8 @@ public:
     SoWeakPtr(const SoWeakPtr& other) : SoWeakPtr(other.get()) {}
     SoWeakPtr& operator=(const SoWeakPtr& other)
     {
-        set(other.get());
+        if (this != &other)
+            set(other.get());
         return *this;
     }
     ~SoWeakPtr() override { set(nullptr); }
