@@ -80,7 +80,7 @@ struct NameRow {
     const char* chosen;
     const char* filter;
     const char* written;
-    const char* begin; ///< of the file's content
+    QByteArray begin; ///< of the file's content
 };
 
 class ExportUnder : public PictureTest, public testing::WithParamInterface<NameRow> {};
@@ -108,6 +108,10 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{"pdfInTheName", "report.pdf.txt", "PDF - using Plotkit", "report.pdf.txt", "%PDF"},
                     NameRow{"capitals", "report.PDF", "PDF - using Plotkit", "report.PDF.pdf", "%PDF"},
                     NameRow{"scene", "report", "U3D - using Plotkit", "report.u3d", "U3D"},
+                    NameRow{"u3d", "model", "U3D - using Plotkit", "model.u3d", QByteArray("U3D\0", 4)},
+                    NameRow{"cgm", "plan", "CGM - using Plotkit", "plan.cgm", QByteArray("\0", 1)},
+                    NameRow{"emf", "plan.emf", "EMF/GDI - using Plotkit", "plan.emf", QByteArray("\x01\0\0\0", 4)},
+                    NameRow{"hpgl", "plan", "HPGL - using Plotkit", "plan.hpgl", "IN;"},
                     NameRow{"vectorPostScript", "a.b", "PS - using Plotkit", "a.b.ps", "%!PS"}),
     [](const auto& test) { return std::string(test.param.test); });
 
