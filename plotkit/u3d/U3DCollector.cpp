@@ -130,7 +130,7 @@ void U3DCollector::addLines(const SoShape& shape, const U3DShape& built)
 
 void U3DCollector::addLight(const SoLight& light)
 {
-    if (!light.on.getValue())
+    if (!light.on.getValue() || light.on.isIgnored())
         return;
     const SbMatrix matrix = fromGroup(u3dLightPlace(light) * state()->model);
     if (isFinite(matrix))

@@ -1,5 +1,7 @@
 #include "Exports.h"
 
+#include <vexel/nodes/SoPointLight.h>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -55,6 +57,13 @@ TEST(U3DLight, fromEverywhereIsThatOfTheEnvironment)
     file = exported("Environment { ambientIntensity 0.5 ambientColor 1 0 0 } Cube {}");
     EXPECT_EQ(0.5f, file.lights.at("Ambient").intensity);
     EXPECT_EQ(SbVec3f(1, 0, 0), file.lights.at("Ambient").color);
+}
+
+TEST(U3DLight, thatIsSwitchedOffOrNowhereIsLeftOut)
+{
+    const ReadScene scene = ReadScene::ofText("PointLight { on FALSE } PointLight { location 0 0 0 } Cube {}");
+    static_cast<SoPointLight*>(scene.root()->getChild(1))->location = SbVec3f(std::nanf(""), 0, 0);
+    EXPECT_EQ((std::vector<std::string>{"Ambient"}), exported(scene.root()).nodesOf(Node::Light));
 }
 
 TEST(U3DLight, isGivenToGraphsWithoutOne)
