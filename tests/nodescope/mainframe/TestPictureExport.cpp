@@ -107,7 +107,6 @@ INSTANTIATE_TEST_SUITE_P(
                     NameRow{"pdf", "report", "PDF - using Plotkit", "report.pdf", "%PDF"},
                     NameRow{"pdfInTheName", "report.pdf.txt", "PDF - using Plotkit", "report.pdf.txt", "%PDF"},
                     NameRow{"capitals", "report.PDF", "PDF - using Plotkit", "report.PDF.pdf", "%PDF"},
-                    NameRow{"scene", "report", "U3D - using Plotkit", "report.u3d", "U3D"},
                     NameRow{"u3d", "model", "U3D - using Plotkit", "model.u3d", QByteArray("U3D\0", 4)},
                     NameRow{"cgm", "plan", "CGM - using Plotkit", "plan.cgm", QByteArray("\0", 1)},
                     NameRow{"emf", "plan.emf", "EMF/GDI - using Plotkit", "plan.emf", QByteArray("\x01\0\0\0", 4)},
