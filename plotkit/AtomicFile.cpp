@@ -1,21 +1,40 @@
 #include "AtomicFile.h"
 
+#include <QFileInfo>
+
+qint64 AtomicFile::File::writeData(const char* data, qint64 length)
+{
+    qint64 written = 0;
+    while (written < length) {
+        const qint64 more = QSaveFile::writeData(data + written, length - written);
+        if (more <= 0)
+            return -1;
+        written += more;
+    }
+    return written;
+}
+
 bool AtomicFile::open(const SbString& fileName)
 {
     cancel();
     m_file.setFileName(fileName.toQString());
-    return m_file.open(QIODevice::WriteOnly);
+    const QFileInfo there(m_file.fileName());
+    const bool isReplaceable =
+        !there.exists() || there.isFile() || there.isDir(); // of folders the file itself complains
+    m_failure = isReplaceable ? QString() : QStringLiteral("it is a device or a pipe");
+    return isReplaceable && m_file.open(QIODevice::WriteOnly);
 }
 
 void AtomicFile::cancel()
 {
     if (!m_file.isOpen())
         return;
+    m_failure = QStringLiteral("it was not completed");
     m_file.cancelWriting();
     m_file.commit();
 }
 
 SbString AtomicFile::getErrorText() const
 {
-    return "cannot write \"" + m_file.fileName() + "\": " + m_file.errorString();
+    return "cannot write \"" + m_file.fileName() + "\": " + (m_failure.isEmpty() ? m_file.errorString() : m_failure);
 }

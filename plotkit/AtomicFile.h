@@ -7,14 +7,14 @@
 
 /**
  * A file that appears under its name when it is complete; until then, and after a failure, a file that was there before
- * stays as it is.
+ * stays as it is. Devices and pipes can't be replaced so, and are refused.
  */
 class PLOTKIT_API AtomicFile {
 public:
     /** Begins a file; one that is open is given up. False when it can't be written there. */
     bool open(const SbString& fileName);
     /** Completes the file. False when something could not be written, or none is open. */
-    bool close() { return m_file.commit(); }
+    bool close() { return isOpen() && m_file.commit(); }
     /** Why the last open() or close() failed, with the name of the file. */
     SbString getErrorText() const;
     /** Ends without a file. */
@@ -25,5 +25,12 @@ public:
     QIODevice& device() { return m_file; }
 
 private:
-    QSaveFile m_file;
+    /** Finds out when only a part of what is written had room. */
+    class File : public QSaveFile {
+    protected:
+        qint64 writeData(const char* data, qint64 length) override;
+    };
+
+    File m_file;
+    QString m_failure; ///< that the file does not know of
 };

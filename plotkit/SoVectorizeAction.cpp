@@ -59,6 +59,5 @@ bool SoVectorizeAction::draw(SoNode& root, PictureSink& sink) const
     PicturePainter painter(sink, m_progress);
     if (!painter.paint(collector.scene()) || !painter.paint(collector.annotations()))
         return false;
-    sink.end();
-    return true;
+    return sink.end();
 }

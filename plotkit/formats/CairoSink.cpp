@@ -68,12 +68,14 @@ void CairoSink::ground(const PageColor& bottom, const PageColor& top)
     cairo_paint(m_context.get());
 }
 
-void CairoSink::end()
+bool CairoSink::end()
 {
     paintMesh();
     m_context.reset();
     cairo_surface_finish(m_surface.get());
+    const bool isComplete = cairo_surface_status(m_surface.get()) == CAIRO_STATUS_SUCCESS;
     m_surface.reset();
+    return isComplete;
 }
 
 void CairoSink::setColor(const PageColor& color)

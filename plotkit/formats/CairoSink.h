@@ -24,7 +24,7 @@ public:
     void polyline(const std::vector<PagePoint>& points, const LineStyle& style) override;
     void dot(const PagePoint& middle, double diameter, const PageColor& color) override;
     void text(const PageText& text) override;
-    void end() override;
+    bool end() override;
 
 private:
     void paintMesh();

@@ -127,10 +127,11 @@ void CgmSink::write(const PageText& text, const InkColor& color)
     add(element.integer(1).string(PlainText::ascii(text.text))); // 1: all of the text
 }
 
-void CgmSink::end()
+bool CgmSink::end()
 {
     add(CgmElement(CgmCode::EndPicture));
     add(CgmElement(CgmCode::EndMetafile));
     m_device.write(m_elements);
     m_elements.clear();
+    return true;
 }

@@ -163,7 +163,7 @@ void EmfSink::write(const PageText& text, const InkColor& color)
     m_records.add(deletion(Font));
 }
 
-void EmfSink::end()
+bool EmfSink::end()
 {
     m_records.add(select(No_pen));
     m_records.add(select(No_brush));
@@ -182,4 +182,5 @@ void EmfSink::end()
                        .bytes());
     m_device.write(m_records.bytes());
     m_records.clear();
+    return true;
 }

@@ -18,7 +18,7 @@ public:
     void fill(const std::vector<PagePoint>& corners, const InkColor& color) override;
     void stroke(const std::vector<PagePoint>& points, double width, const InkColor& color) override;
     void write(const PageText& text, const InkColor& color) override;
-    void end() override;
+    bool end() override;
 
 private:
     struct Pen {

@@ -195,11 +195,12 @@ QByteArray HpglSink::withPens() const
     return text.append(m_commands.constData() + done, m_commands.size() - done);
 }
 
-void HpglSink::end()
+bool HpglSink::end()
 {
     m_device.write("IN;\n");
     m_device.write(m_mode == Mode::Palette ? withPens() : m_commands);
     m_device.write(m_mode == Mode::Palette ? "PU;SP0;PG;\n" : "PU;SP0;\n");
     m_commands.clear();
     m_changes.clear();
+    return true;
 }

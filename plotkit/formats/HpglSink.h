@@ -17,7 +17,7 @@ public:
     void fill(const std::vector<PagePoint>& corners, const InkColor& color) override;
     void stroke(const std::vector<PagePoint>& points, double width, const InkColor& color) override;
     void write(const PageText& text, const InkColor& color) override;
-    void end() override;
+    bool end() override;
 
 private:
     /** A place in the commands from which on a colour holds. */

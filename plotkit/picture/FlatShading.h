@@ -28,7 +28,7 @@ public:
         m_sink.dot(middle, diameter, color);
     }
     void text(const PageText& text) override { m_sink.text(text); }
-    void end() override { m_sink.end(); }
+    bool end() override { return m_sink.end(); }
 
 private:
     PictureSink& m_sink;

@@ -20,7 +20,7 @@ public:
     void polyline(const std::vector<PagePoint>& points, const LineStyle& style) override;
     void dot(const PagePoint& middle, double diameter, const PageColor& color) override;
     void text(const PageText& text) override;
-    void end() override { m_sink.end(); }
+    bool end() override { return m_sink.end(); }
 
 private:
     PageColor opaque(const PageColor& color, const PagePoint& place) const;

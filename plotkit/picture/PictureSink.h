@@ -59,5 +59,6 @@ public:
     /** A round dot; the diameter in millimetres. */
     virtual void dot(const PagePoint& middle, double diameter, const PageColor& color) = 0;
     virtual void text(const PageText& text) = 0;
-    virtual void end() = 0;
+    /** False when the picture could not be completed; that the file took it is not known yet. */
+    virtual bool end() = 0;
 };

@@ -19,13 +19,18 @@ ProgramRun runToItsEnd(QProcess& process)
 
 } // namespace
 
+QString pathOfProgram(const QString& program)
+{
+    return QStringLiteral(PROGRAM_FOLDER "/") + program;
+}
+
 void startProgram(QProcess& process, const QString& program, const QStringList& arguments)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // The plug-ins of an installed tree are no subject here, and their messages would stand among those compared.
     environment.insert("VXL_NODESCOPE_CONFIGURATION_FILE", QStringLiteral(EMPTY_CONFIGURATION));
     process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(PROGRAM_FOLDER "/") + program, arguments);
+    process.start(pathOfProgram(program), arguments);
 }
 
 ProgramRun runProgram(const QString& program, const QStringList& arguments)

@@ -14,6 +14,9 @@ struct ProgramRun {
     std::string err;
 };
 
+/** Where one of the built programs lies. */
+QString pathOfProgram(const QString& program);
+
 /** Starts one of the built programs, named without its folder. */
 void startProgram(QProcess& process, const QString& program, const QStringList& arguments);
 

@@ -25,7 +25,7 @@ inline QByteArray painted(SoVectorOutput& output, const std::function<void(Pictu
     PictureSink& sink = output.sink();
     sink.begin(paintedPage());
     paint(sink);
-    sink.end();
+    EXPECT_TRUE(sink.end());
     EXPECT_TRUE(output.closeFile());
     return contentOf(file);
 }

@@ -34,8 +34,6 @@ const Look Looks[] = {
     {"PdfSolids", "solids.vx", "pdf", OtherPrograms::pdftoppm, Full_formats},
     {"PdfLines", "lines.vx", "pdf", OtherPrograms::pdftoppm, Full_formats},
     {"PdfText", "text.vx", "pdf", OtherPrograms::pdftoppm, Full_formats},
-    {"PdfAssembly", "assembly.vx", "pdf", OtherPrograms::pdftoppm, Full_formats},
-    {"PdfInterior", "interior.vx", "pdf", OtherPrograms::ghostscript, Full_formats},
     {"PsSolids", "solids.vx", "ps", OtherPrograms::ghostscript, Full_formats},
     {"PsLines", "lines.vx", "ps", OtherPrograms::ghostscript, Full_formats},
     {"PsText", "text.vx", "ps", OtherPrograms::ghostscript, Full_formats},

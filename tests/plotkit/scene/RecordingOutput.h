@@ -54,7 +54,7 @@ public:
         dots.push_back({middle, diameter, color});
     }
     void text(const PageText& text) override { texts.push_back(text); }
-    void end() override { isEnded = true; }
+    bool end() override { return isEnded = true; }
 
     /** Area of what has a colour in which one component is the largest by far. */
     double areaOf(float PageColor::*component) const
