@@ -39,9 +39,15 @@ double ConvexPolygon::area() const
     return twice / 2;
 }
 
-bool ConvexPolygon::isOutside(const Linear& side) const
+double ConvexPolygon::thickness() const
 {
-    return std::none_of(begin(), end(), [&](const PagePoint& corner) { return side.at(corner) > 0; });
+    double longest = 0;
+    for (std::size_t i = 0; i < m_size; ++i) {
+        const PagePoint& p = m_corners[i];
+        const PagePoint& q = m_corners[i + 1 < m_size ? i + 1 : 0];
+        longest = std::max(longest, std::hypot(q.x - p.x, q.y - p.y));
+    }
+    return longest > 0 ? area() / longest : 0;
 }
 
 ConvexPolygon ConvexPolygon::clipped(const Linear& side) const

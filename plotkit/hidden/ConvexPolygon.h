@@ -36,12 +36,12 @@ public:
     const PagePoint* begin() const { return m_corners.data(); }
     const PagePoint* end() const { return m_corners.data() + m_size; }
     double area() const;
+    /** Area by longest edge: about half the width of a triangle, and the width of a strip. */
+    double thickness() const;
 
     void add(const PagePoint& corner);
     /** The part where `side` is positive. */
     ConvexPolygon clipped(const Linear& side) const;
-    /** Whether `side` is positive nowhere. */
-    bool isOutside(const Linear& side) const;
 
 private:
     std::array<PagePoint, Capacity> m_corners;

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::size_t Few = 12;
 constexpr int Most_divisions = 14;
+/** Millimetres below which a part is left out: where surfaces meet at an edge, of those behind such slivers remain. */
+constexpr double Least_thickness = 0.02;
 /** Triangles in front that are cut out of a whole triangle; behind more of them it is seen in pieces. */
 constexpr std::size_t Most_fronts = 24;
 /** Depths closer than this count as the same: the first triangle is seen then, as in a picture drawn in this order. */
@@ -246,21 +248,25 @@ void VisibleSurfaces::emitParts(const PartCB& part)
 void VisibleSurfaces::emitCut(std::uint32_t index, const std::vector<std::uint32_t>& fronts, const Piece* pieces,
                               std::size_t numPieces, const PartCB& part)
 {
-    // Cut as a whole, the triangle falls into fewer parts than it has pieces in the parts of the page.
     std::vector<PagePoint> corners;
+    const auto emitPart = [&](const ConvexPolygon& polygon) {
+        if (polygon.thickness() < Least_thickness)
+            return;
+        corners.assign(polygon.begin(), polygon.end());
+        part(index, corners);
+    };
+    // Cut as a whole, the triangle falls into fewer parts than it has pieces in the parts of the page.
     if (fronts.size() <= Most_fronts) {
         m_rest.assign(1, m_triangles[index].polygon());
         for (const std::uint32_t front : fronts)
             subtract(m_triangles[front], front, index);
-        for (const ConvexPolygon& rest : m_rest) {
-            corners.assign(rest.begin(), rest.end());
-            part(index, corners);
-        }
+        std::for_each(m_rest.begin(), m_rest.end(), emitPart);
         return;
     }
     for (std::size_t i = 0; i < numPieces; ++i) {
-        const auto first = m_corners.begin() + pieces[i].first;
-        corners.assign(first, first + pieces[i].count);
-        part(index, corners);
+        ConvexPolygon polygon;
+        for (std::size_t k = 0; k < pieces[i].count; ++k)
+            polygon.add(m_corners[pieces[i].first + k]);
+        emitPart(polygon);
     }
 }
