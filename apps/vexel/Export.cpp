@@ -15,6 +15,28 @@ std::string exportedEnds()
     return text;
 }
 
+namespace {
+
+// [export]
+/** False, and the reason in `problem`, when the file was not written. */
+bool exportScene(SoNode* scene, const VectorFormat& format, const SbString& fileName, SbString& problem)
+{
+    SoPlotkit::init();
+    const std::unique_ptr<VectorExport> output = format.create();
+    bool isWritten = output->openFile(fileName);
+    if (isWritten) {
+        output->apply(scene);
+        isWritten = output->closeFile();
+    }
+    if (!isWritten)
+        problem = output->getErrorText();
+    SoPlotkit::finish();
+    return isWritten;
+}
+// [end]
+
+} // namespace
+
 int runExport(const Arguments& arguments)
 {
     if (arguments.size() != 2)
@@ -26,16 +48,9 @@ int runExport(const Arguments& arguments)
     if (!file.root())
         return file.status();
 
-    SoPlotkit::init();
-    const std::unique_ptr<VectorExport> output = format->create();
-    bool isWritten = output->openFile(SbString(arguments[1]));
-    if (isWritten) {
-        output->apply(file.root());
-        isWritten = output->closeFile();
-    }
-    SoPlotkit::finish();
-    if (isWritten)
+    SbString problem;
+    if (exportScene(file.root(), *format, SbString(arguments[1]), problem))
         return file.status();
-    std::fprintf(stderr, "vexel: %s\n", output->getErrorText().toUtf8().constData());
+    std::fprintf(stderr, "vexel: %s\n", problem.toUtf8().constData());
     return Unreadable;
 }

@@ -37,7 +37,7 @@ QString PluginFolders::find(const QString& name, const QStringList& folders)
 {
     for (const QString& folder : folders) {
         for (const char* prefix : {"/lib", "/"}) {
-            const QString file = folder + prefix + name + ".so";
+            QString file = folder + prefix + name + ".so";
             if (QFileInfo(file).isFile())
                 return file;
         }
