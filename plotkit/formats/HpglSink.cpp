@@ -43,7 +43,8 @@ bool isUpright(const std::vector<PagePoint>& corners)
 
 HpglSink::HpglSink(QIODevice& device, Mode mode)
     : PlainSink({Most_line_points, mode == Mode::Outlines ? 1.0f : 0.03f,
-                 mode == Mode::Palette ? OpaqueColors::Ground::Painted : OpaqueColors::Ground::LeftOut}),
+                 mode == Mode::Palette ? OpaqueColors::Ground::Painted : OpaqueColors::Ground::LeftOut,
+                 mode == Mode::Palette ? 0.1 : 0.0}),
       m_device(device), m_mode(mode)
 {
 }

@@ -12,26 +12,23 @@ constexpr InkColor Pens[PenCarousel::Num_pens] = {{0, 0, 0},   {255, 0, 0},   {0
 
 PenCarousel::Ink PenCarousel::inkFor(const InkColor& color)
 {
-    Ink best{1, 0};
-    double least = std::numeric_limits<double>::max();
-    for (int i = 0; i < Num_pens; ++i) {
-        const auto darkness = [](std::uint8_t component) { return 1 - component / 255.0; };
-        const double pen[] = {darkness(Pens[i].red), darkness(Pens[i].green), darkness(Pens[i].blue)};
-        const double wanted[] = {darkness(color.red), darkness(color.green), darkness(color.blue)};
-        double together = 0;
-        double square = 0;
-        for (int k = 0; k < 3; ++k) {
-            together += pen[k] * wanted[k];
-            square += pen[k] * pen[k];
-        }
-        const double coverage = std::clamp(together / square, 0.0, 1.0);
-        double error = 0;
-        for (int k = 0; k < 3; ++k)
-            error += (wanted[k] - coverage * pen[k]) * (wanted[k] - coverage * pen[k]);
-        if (error < least) {
-            least = error;
-            best = {i + 1, coverage};
+    constexpr double Least_saturation = 0.2; // of colours that are not black or gray
+    const auto [low, high] = std::minmax({color.red, color.green, color.blue});
+    const double spread = high - low;
+    Ink ink{1, 1 - (color.red + color.green + color.blue) / (3 * 255.0)};
+    if (spread <= Least_saturation * high)
+        return ink;
+    const auto pure = [&, least = low](std::uint8_t component) { return (component - least) / spread * 255; };
+    double nearest = std::numeric_limits<double>::max();
+    for (int i = 1; i < Num_pens; ++i) {
+        const double red = pure(color.red) - Pens[i].red;
+        const double green = pure(color.green) - Pens[i].green;
+        const double blue = pure(color.blue) - Pens[i].blue;
+        const double distance = red * red + green * green + blue * blue;
+        if (distance < nearest) {
+            nearest = distance;
+            ink.pen = i + 1;
         }
     }
-    return best;
+    return ink;
 }

@@ -15,6 +15,6 @@ public:
         double coverage; ///< of white paper, from 0 to 1
     };
 
-    /** What looks most like a colour. */
+    /** The pen of the same hue; the darker a colour, the more of the paper is covered. */
     static Ink inkFor(const InkColor& color);
 };

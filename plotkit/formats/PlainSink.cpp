@@ -7,8 +7,6 @@
 
 namespace {
 
-/** Millimetres by which polygons are grown, so that no ground shines through between neighbours. */
-constexpr double Seam = 0.1;
 /** How far a sharp corner may go out, in seams. */
 constexpr double Longest_corner = 3;
 
@@ -59,7 +57,8 @@ std::vector<PagePoint> grown(const std::vector<PagePoint>& corners, double outwa
 } // namespace
 
 PlainSink::PlainSink(const Limits& limits)
-    : m_flat(*this, limits.colorStep), m_front(m_flat, limits.ground), m_linePoints(limits.linePoints)
+    : m_flat(*this, limits.colorStep), m_front(m_flat, limits.ground), m_linePoints(limits.linePoints),
+      m_seam(limits.seam)
 {
 }
 
@@ -80,7 +79,7 @@ void PlainSink::polygon(const std::vector<PagePoint>& corners, const PageColor& 
         return;
     const std::vector<PagePoint> kept = withoutRepetitions(corners);
     if (kept.size() >= 3)
-        fill(grown(kept, signedArea(kept) < 0 ? -Seam : Seam), InkColor::of(color));
+        fill(grown(kept, signedArea(kept) < 0 ? -m_seam : m_seam), InkColor::of(color));
 }
 
 void PlainSink::polyline(const std::vector<PagePoint>& points, const LineStyle& style)

@@ -20,6 +20,8 @@ protected:
         std::size_t linePoints;  ///< most of them in a line; longer ones are split
         float colorStep = 0.03f; ///< see FlatShading
         OpaqueColors::Ground ground = OpaqueColors::Ground::Painted;
+        double seam =
+            0.1; ///< by which polygons are grown, so that no ground shines through between them, in millimetres
     };
 
     explicit PlainSink(const Limits& limits);
@@ -43,4 +45,5 @@ private:
     FlatShading m_flat;
     OpaqueColors m_front;
     std::size_t m_linePoints;
+    double m_seam;
 };

@@ -105,6 +105,19 @@ TEST(Hpgl, takesThePensOfACarousel)
     EXPECT_EQ((std::set<int>{2, 5}), pensOf(plot)) << "neither the ground nor white";
 }
 
+TEST(Hpgl, takesThePenOfAColoursHue)
+{
+    const auto penFor = [](const PageColor& color) {
+        return pensOf(plotOf(SoHPGLVectorOutput::CAROUSEL_HATCHED, [&](PictureSink& sink) {
+            sink.polygon({{20, 20}, {30, 20}, {30, 30}}, color);
+        }));
+    };
+    EXPECT_EQ(std::set<int>{1}, penFor({0.3f, 0.32f, 0.3f, 1})) << "gray";
+    EXPECT_EQ(std::set<int>{2}, penFor({0.4f, 0.05f, 0.02f, 1})) << "dark red";
+    EXPECT_EQ(std::set<int>{5}, penFor({0.6f, 0.6f, 0.9f, 1})) << "pale blue";
+    EXPECT_EQ(std::set<int>{8}, penFor({0.9f, 0.5f, 0.1f, 1})) << "orange";
+}
+
 TEST(Hpgl, drawsOutlinesWithoutFillingThem)
 {
     const QByteArray plot = plotOf(SoHPGLVectorOutput::CAROUSEL_OUTLINES, paintAll);
