@@ -1,4 +1,10 @@
 #include "SoPlotkit.h"
 
-void SoPlotkit::init() {}
+#include <vexel/io/SoDB.h>
+
+void SoPlotkit::init()
+{
+    SoDB::init();
+}
+
 void SoPlotkit::finish() {}

@@ -7,8 +7,8 @@ class PLOTKIT_API SoPlotkit {
 public:
     SoPlotkit() = delete;
 
-    /** To be called before any export; calls are counted. */
+    /** To be called before the first export: makes the toolkit ready. */
     static void init();
-    /** Takes back one init(). */
+    /** To be called after the last one. Nothing is kept between exports, so that nothing is freed. */
     static void finish();
 };
