@@ -1,7 +1,7 @@
 #pragma once
 
-#include <plotkit/AtomicFile.h>
 #include <plotkit/SoVectorizeAction.h>
+#include <vexel/io/SoAtomicFile.h>
 
 #include <utility>
 
@@ -46,7 +46,7 @@ public:
 private:
     bool write(SoNode& root);
 
-    AtomicFile m_file;
+    SoAtomicFile m_file;
     bool m_isWritten = false;
     SbViewportRegion m_region{1208, 1024};
     SoVectorizeAction::ProgressCB m_progress;

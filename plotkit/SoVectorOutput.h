@@ -1,6 +1,7 @@
 #pragma once
 
-#include <plotkit/AtomicFile.h>
+#include <plotkit/PlotkitApi.h>
+#include <vexel/io/SoAtomicFile.h>
 
 class PictureSink;
 
@@ -34,5 +35,5 @@ protected:
     QIODevice& device() { return m_file.device(); }
 
 private:
-    AtomicFile m_file;
+    SoAtomicFile m_file;
 };

@@ -26,7 +26,9 @@ QString pathOfProgram(const QString& program)
 
 void startProgram(QProcess& process, const QString& program, const QStringList& arguments)
 {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = process.processEnvironment();
+    if (environment.isEmpty())
+        environment = QProcessEnvironment::systemEnvironment();
     // The plug-ins of an installed tree are no subject here, and their messages would stand among those compared.
     environment.insert("VXL_NODESCOPE_CONFIGURATION_FILE", QStringLiteral(EMPTY_CONFIGURATION));
     process.setProcessEnvironment(environment);

@@ -5,7 +5,6 @@
 #include <string>
 
 #include <QtCore/QFileInfo>
-#include <QtCore/QSaveFile>
 #include <QtGui/QImage>
 #include <QtGui/QImageWriter>
 #include <QtGui/QPainter>
@@ -15,6 +14,7 @@
 #include <vexel/actions/detail/PostScriptPicture.h>
 #include <vexel/base/SbString.h>
 #include <vexel/base/SoDebugError.h>
+#include <vexel/io/SoAtomicFile.h>
 #include <vexel/nodes/SoSeparator.h>
 #include <vexel/render/GLContext.h>
 #include <vexel/render/OffscreenTarget.h>
@@ -127,16 +127,16 @@ bool SoOffscreenRenderArea::renderToFile(const SbString& fileName, double qualit
     const QImage image = render();
     if (image.isNull())
         return false;
-    QSaveFile file(name);
-    file.open(QIODevice::WriteOnly);
-    QImageWriter writer(&file, format);
+    SoAtomicFile file;
+    const bool isOpen = file.open(fileName);
+    QImageWriter writer(&file.device(), format);
     if (quality > 0)
         writer.setQuality(static_cast<int>(quality * 100));
-    const bool isDrawn = isPostScript ? vexel::writePostScript(image, file) : writer.write(image);
-    if (isDrawn && file.commit())
+    if (isOpen && !(isPostScript ? vexel::writePostScript(image, file.device()) : writer.write(image)))
+        file.giveUp(writer.errorString());
+    if (isOpen && file.close())
         return true;
-    const QString reason = file.error() != QFileDevice::NoError ? file.errorString() : writer.errorString();
     SoDebugError::post(Writing, "\"%s\" could not be written: %s", name.toUtf8().constData(),
-                       reason.toUtf8().constData());
+                       file.getReason().toUtf8().constData());
     return false;
 }

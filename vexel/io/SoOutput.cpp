@@ -5,9 +5,9 @@
 #include <cstring>
 
 #include <QFileInfo>
-#include <QSaveFile>
 #include <zlib.h>
 
+#include <vexel/io/SoAtomicFile.h>
 #include <vexel/io/detail/SceneWriter.h>
 
 class SoOutput::Sink {
@@ -63,7 +63,7 @@ private:
 
 class SoOutput::FileSink : public Sink {
 public:
-    explicit FileSink(const SbString& name) : m_file(name.toQString()) {}
+    explicit FileSink(const SbString& name) : m_name(name) {}
     ~FileSink() override
     {
         if (m_isPacking)
@@ -76,19 +76,19 @@ public:
         constexpr int MemoryLevel = 8;
         m_isPacking = compressed && deflateInit2(&m_stream, Z_DEFAULT_COMPRESSION, Z_DEFLATED, GzipWindow, MemoryLevel,
                                                  Z_DEFAULT_STRATEGY) == Z_OK;
-        return m_file.open(QIODevice::WriteOnly) && m_isPacking == compressed;
+        return m_file.open(m_name) && m_isPacking == compressed;
     }
     bool put(const char* data, std::size_t size) override
     {
         return m_isPacking ? pack(data, size, Z_NO_FLUSH) : putRaw(data, size);
     }
-    bool finish() override { return (!m_isPacking || pack("", 0, Z_FINISH)) && m_file.commit(); }
-    SbString error() const override { return SbString(m_file.errorString()); }
+    bool finish() override { return (!m_isPacking || pack("", 0, Z_FINISH)) && m_file.close(); }
+    SbString error() const override { return m_file.getReason(); }
 
 private:
     bool putRaw(const char* data, std::size_t size)
     {
-        return m_file.write(data, static_cast<qint64>(size)) == static_cast<qint64>(size);
+        return m_file.device().write(data, static_cast<qint64>(size)) == static_cast<qint64>(size);
     }
     bool pack(const char* data, std::size_t size, int mode)
     {
@@ -105,7 +105,8 @@ private:
         return true;
     }
 
-    QSaveFile m_file;
+    SbString m_name;
+    SoAtomicFile m_file;
     z_stream m_stream{};
     bool m_isPacking = false;
 };

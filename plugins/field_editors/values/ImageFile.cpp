@@ -6,8 +6,8 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QImageWriter>
-#include <QSaveFile>
 #include <vexel/fields/SoSFImage.h>
+#include <vexel/io/SoAtomicFile.h>
 
 namespace {
 
@@ -35,17 +35,14 @@ QString ImageFile::load(const QString& fileName, SoSFImage& image)
 
 QString ImageFile::save(const QString& fileName, const SoSFImage& image)
 {
-    QSaveFile file(fileName);
-    QImageWriter writer(&file, QFileInfo(fileName).suffix().toLatin1());
-    QString reason;
-    if (!file.open(QIODevice::WriteOnly))
-        reason = file.errorString();
-    else if (!writer.write(ImageTexels::picture(image)))
-        reason = writer.errorString();
-    else if (!file.commit())
-        reason = file.errorString();
-    return reason.isEmpty() ? QString()
-                            : tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(fileName), reason);
+    SoAtomicFile file;
+    const bool isOpen = file.open(fileName);
+    QImageWriter writer(&file.device(), QFileInfo(fileName).suffix().toLatin1());
+    if (isOpen && !writer.write(ImageTexels::picture(image)))
+        file.giveUp(writer.errorString());
+    if (isOpen && file.close())
+        return QString();
+    return tr("%1 cannot be written: %2").arg(QDir::toNativeSeparators(fileName), file.getReason().toQString());
 }
 
 QStringList ImageFile::loadFilters()

@@ -10,7 +10,6 @@
 #include <QGuiApplication>
 #include <gtest/gtest.h>
 
-#include <memory>
 
 namespace {
 
@@ -27,19 +26,17 @@ void fillAll(SoNode* root)
 
 class GalleryScene : public testing::TestWithParam<const char*> {
 protected:
-    // Fonts need an application.
+    // Fonts need an application. It is kept to the end of the process: the platform plug-in does not give back its
+    // screen.
     static void SetUpTestSuite()
     {
         static int argc = 1;
         static char name[] = "test";
         static char* argv[] = {name, nullptr};
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        s_application = std::make_unique<QGuiApplication>(argc, argv);
+        static auto* application = new QGuiApplication(argc, argv);
+        ASSERT_EQ(application, QCoreApplication::instance());
     }
-    static void TearDownTestSuite() { s_application.reset(); }
-
-private:
-    static inline std::unique_ptr<QGuiApplication> s_application;
 };
 
 TEST_P(GalleryScene, isInTheFileAsItIsSeen)

@@ -1,8 +1,8 @@
-#include "AtomicFile.h"
+#include <vexel/io/SoAtomicFile.h>
 
-#include <QFileInfo>
+#include <QtCore/QFileInfo>
 
-qint64 AtomicFile::File::writeData(const char* data, qint64 length)
+qint64 SoAtomicFile::File::writeData(const char* data, qint64 length)
 {
     qint64 written = 0;
     while (written < length) {
@@ -14,7 +14,7 @@ qint64 AtomicFile::File::writeData(const char* data, qint64 length)
     return written;
 }
 
-bool AtomicFile::open(const SbString& fileName)
+bool SoAtomicFile::open(const SbString& fileName)
 {
     cancel();
     m_file.setFileName(fileName.toQString());
@@ -25,16 +25,26 @@ bool AtomicFile::open(const SbString& fileName)
     return isReplaceable && m_file.open(QIODevice::WriteOnly);
 }
 
-void AtomicFile::cancel()
+void SoAtomicFile::cancel()
+{
+    giveUp("it was not completed");
+}
+
+void SoAtomicFile::giveUp(const SbString& reason)
 {
     if (!m_file.isOpen())
         return;
-    m_failure = QStringLiteral("it was not completed");
+    m_failure = m_file.error() == QFileDevice::NoError ? reason.toQString() : m_file.errorString();
     m_file.cancelWriting();
     m_file.commit();
 }
 
-SbString AtomicFile::getErrorText() const
+SbString SoAtomicFile::getReason() const
 {
-    return "cannot write \"" + m_file.fileName() + "\": " + (m_failure.isEmpty() ? m_file.errorString() : m_failure);
+    return m_failure.isEmpty() ? m_file.errorString() : m_failure;
+}
+
+SbString SoAtomicFile::getErrorText() const
+{
+    return "cannot write \"" + m_file.fileName() + "\": " + getReason().toQString();
 }
