@@ -17,7 +17,8 @@ struct ProgramRun {
 /** Where one of the built programs lies. */
 QString pathOfProgram(const QString& program);
 
-/** Starts one of the built programs, named without its folder. */
+/** Starts one of the built programs, named without its folder, in the environment that the process was given, if any.
+ */
 void startProgram(QProcess& process, const QString& program, const QStringList& arguments);
 
 /** Runs one of the built programs to its end. */
