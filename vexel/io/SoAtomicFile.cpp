@@ -1,5 +1,7 @@
 #include <vexel/io/SoAtomicFile.h>
 
+#include <cerrno>
+
 #include <QtCore/QFileInfo>
 
 qint64 SoAtomicFile::File::writeData(const char* data, qint64 length)
@@ -7,8 +9,11 @@ qint64 SoAtomicFile::File::writeData(const char* data, qint64 length)
     qint64 written = 0;
     while (written < length) {
         const qint64 more = QSaveFile::writeData(data + written, length - written);
-        if (more <= 0)
+        if (more <= 0) {
+            if (failure.isEmpty())
+                failure = qt_error_string(errno);
             return -1;
+        }
         written += more;
     }
     return written;
@@ -18,6 +23,7 @@ bool SoAtomicFile::open(const SbString& fileName)
 {
     cancel();
     m_file.setFileName(fileName.toQString());
+    m_file.failure.clear();
     const QFileInfo there(m_file.fileName());
     const bool isReplaceable =
         !there.exists() || there.isFile() || there.isDir(); // of folders the file itself complains
@@ -34,13 +40,15 @@ void SoAtomicFile::giveUp(const SbString& reason)
 {
     if (!m_file.isOpen())
         return;
-    m_failure = m_file.error() == QFileDevice::NoError ? reason.toQString() : m_file.errorString();
+    m_failure = reason.toQString();
     m_file.cancelWriting();
     m_file.commit();
 }
 
 SbString SoAtomicFile::getReason() const
 {
+    if (!m_file.failure.isEmpty())
+        return m_file.failure;
     return m_failure.isEmpty() ? m_file.errorString() : m_failure;
 }
 

@@ -31,6 +31,9 @@ public:
 private:
     /** Finds out when only a part of what is written had room. */
     class File : public QSaveFile {
+    public:
+        QString failure; ///< what the system said when writing failed first; QSaveFile forgets it
+
     protected:
         qint64 writeData(const char* data, qint64 length) override;
     };
