@@ -20,17 +20,17 @@ cairo_status_t write(void* device, const unsigned char* data, unsigned int lengt
 
 } // namespace
 
-void CairoSink::Release::operator()(_cairo* context) const
+void CairoSink::Release::operator()(cairo_t* context) const
 {
     cairo_destroy(context);
 }
 
-void CairoSink::Release::operator()(_cairo_pattern* pattern) const
+void CairoSink::Release::operator()(cairo_pattern_t* pattern) const
 {
     cairo_pattern_destroy(pattern);
 }
 
-void CairoSink::Release::operator()(_cairo_surface* surface) const
+void CairoSink::Release::operator()(cairo_surface_t* surface) const
 {
     cairo_surface_destroy(surface);
 }

@@ -2,12 +2,10 @@
 
 #include <plotkit/picture/PictureSink.h>
 
+#include <cairo.h>
 #include <memory>
 
 class QIODevice;
-struct _cairo;
-struct _cairo_pattern;
-struct _cairo_surface;
 
 /** Draws a picture with cairo: a page of a PDF or PostScript document, written to a device. */
 class CairoSink : public PictureSink {
@@ -32,16 +30,16 @@ private:
     void outline(const std::vector<PagePoint>& points);
 
     struct Release {
-        void operator()(_cairo* context) const;
-        void operator()(_cairo_pattern* pattern) const;
-        void operator()(_cairo_surface* surface) const;
+        void operator()(cairo_t* context) const;
+        void operator()(cairo_pattern_t* pattern) const;
+        void operator()(cairo_surface_t* surface) const;
     };
 
     QIODevice& m_device;
     Format m_format;
     PageRect m_picture;
-    std::unique_ptr<_cairo_surface, Release> m_surface;
-    std::unique_ptr<_cairo, Release> m_context;
-    std::unique_ptr<_cairo_pattern, Release> m_mesh; ///< shaded surfaces that are not painted yet
+    std::unique_ptr<cairo_surface_t, Release> m_surface;
+    std::unique_ptr<cairo_t, Release> m_context;
+    std::unique_ptr<cairo_pattern_t, Release> m_mesh; ///< shaded surfaces that are not painted yet
     int m_meshSize = 0;
 };
