@@ -115,13 +115,12 @@ void PicturePainter::paintPart(const PagePrimitives& primitives, std::size_t ind
                                const std::vector<PagePoint>& corners)
 {
     const std::array<PageColor, 3>& colors = primitives.surfaceColors[index];
-    const auto& [a, b, c] = colors;
     if (isOneColor(colors)) {
-        m_sink.polygon(corners, a);
+        m_sink.polygon(corners, colors[0]);
         return;
     }
     const auto component = [&](float PageColor::*part) {
-        return over(primitives.surfaces[index], a.*part, b.*part, c.*part);
+        return over(primitives.surfaces[index], colors[0].*part, colors[1].*part, colors[2].*part);
     };
     const Linear red = component(&PageColor::red);
     const Linear green = component(&PageColor::green);

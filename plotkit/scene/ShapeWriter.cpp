@@ -120,6 +120,7 @@ void ShapeWriter::addTriangle(const std::uint32_t* indices)
     if (corners.size() < 3)
         return;
     std::vector<ShadedPoint> shaded;
+    shaded.reserve(corners.size());
     for (const SurfacePoint& corner : corners)
         shaded.push_back(m_refiner.shade(corner));
     for (std::size_t i = 2; i < shaded.size(); ++i)
