@@ -15,6 +15,18 @@ Linear Linear::leftOf(const PagePoint& from, const PagePoint& to)
     return {a, b, -(a * from.x + b * from.y)};
 }
 
+Linear Linear::through(const std::array<PagePoint, 3>& p, const std::array<double, 3>& values)
+{
+    const double twiceArea = (p[1].x - p[0].x) * (p[2].y - p[0].y) - (p[2].x - p[0].x) * (p[1].y - p[0].y);
+    if (twiceArea == 0)
+        return {};
+    const double d1 = values[1] - values[0];
+    const double d2 = values[2] - values[0];
+    const double a = (d1 * (p[2].y - p[0].y) - d2 * (p[1].y - p[0].y)) / twiceArea;
+    const double b = (d2 * (p[1].x - p[0].x) - d1 * (p[2].x - p[0].x)) / twiceArea;
+    return {a, b, values[0] - a * p[0].x - b * p[0].y};
+}
+
 ConvexPolygon::ConvexPolygon(std::initializer_list<PagePoint> corners)
 {
     for (const PagePoint& corner : corners)

@@ -20,6 +20,8 @@ struct PLOTKIT_API Linear {
 
     /** Positive at the left of the way from one point to the other, in units of length. */
     static Linear leftOf(const PagePoint& from, const PagePoint& to);
+    /** The quantity that has these values at three points; 0 everywhere when they lie on a line. */
+    static Linear through(const std::array<PagePoint, 3>& points, const std::array<double, 3>& values);
 };
 
 /** A convex polygon of limited detail, counter-clockwise: corners beyond its capacity are left out. */

@@ -8,11 +8,7 @@ SurfaceTriangle::SurfaceTriangle(const std::array<PagePoint, 3>& points, const s
                                  bool opaque)
     : corners(points), depths(pointDepths), isOpaque(opaque)
 {
-    const auto twiceArea = [this] {
-        return (corners[1].x - corners[0].x) * (corners[2].y - corners[0].y) -
-               (corners[2].x - corners[0].x) * (corners[1].y - corners[0].y);
-    };
-    if (twiceArea() < 0) {
+    if (polygon().area() < 0) {
         std::swap(corners[1], corners[2]);
         std::swap(depths[1], depths[2]);
     }
@@ -21,13 +17,5 @@ SurfaceTriangle::SurfaceTriangle(const std::array<PagePoint, 3>& points, const s
     std::tie(left, right) = std::minmax({corners[0].x, corners[1].x, corners[2].x});
     std::tie(bottom, top) = std::minmax({corners[0].y, corners[1].y, corners[2].y});
     nearest = std::min({depths[0], depths[1], depths[2]});
-    const double area = twiceArea();
-    if (area == 0)
-        return;
-    // The plane through the three points.
-    const double dz1 = depths[1] - depths[0];
-    const double dz2 = depths[2] - depths[0];
-    depth.a = (dz1 * (corners[2].y - corners[0].y) - dz2 * (corners[1].y - corners[0].y)) / area;
-    depth.b = (dz2 * (corners[1].x - corners[0].x) - dz1 * (corners[2].x - corners[0].x)) / area;
-    depth.c = depths[0] - depth.a * corners[0].x - depth.b * corners[0].y;
+    depth = Linear::through(corners, depths);
 }

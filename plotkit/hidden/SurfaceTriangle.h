@@ -4,6 +4,9 @@
 
 #include <array>
 
+/** Depths closer than this count as the same: what is drawn first is seen then, as in a picture drawn in this order. */
+constexpr double Same_depth = 1e-7;
+
 /** A triangle on the page with the depth of its points; nearer ones have the smaller depth. */
 struct PLOTKIT_API SurfaceTriangle {
     std::array<PagePoint, 3> corners; ///< counter-clockwise

@@ -5,7 +5,6 @@
 
 namespace {
 
-constexpr double Same_depth = 1e-7;
 constexpr double Least_part = 1e-6;
 constexpr int Most_cells = 512; ///< in a row
 

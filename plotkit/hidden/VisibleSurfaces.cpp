@@ -14,8 +14,6 @@ constexpr int Most_divisions = 14;
 constexpr double Least_thickness = 0.02;
 /** Triangles in front that are cut out of a whole triangle; behind more of them it is seen in pieces. */
 constexpr std::size_t Most_fronts = 24;
-/** Depths closer than this count as the same: the first triangle is seen then, as in a picture drawn in this order. */
-constexpr double Same_depth = 1e-7;
 /** Square millimetres below which nobody sees a part. */
 constexpr double Least_area = 1e-7;
 
@@ -29,10 +27,6 @@ struct VisibleSurfaces::Rect {
         const double x = (left + right) / 2;
         const double y = (bottom + top) / 2;
         return {i & 1 ? x : left, i & 2 ? y : bottom, i & 1 ? right : x, i & 2 ? top : y};
-    }
-    std::array<PagePoint, 4> corners() const
-    {
-        return {PagePoint{left, bottom}, PagePoint{right, bottom}, PagePoint{right, top}, PagePoint{left, top}};
     }
     bool touches(const SurfaceTriangle& triangle) const
     {

@@ -12,12 +12,6 @@ namespace {
 /** A difference of colours that nobody sees. */
 constexpr float Same_color = 1.5f / 255;
 
-/** A component of a colour over the page, from its values at the corners of a triangle. */
-Linear over(const SurfaceTriangle& triangle, float a, float b, float c)
-{
-    return SurfaceTriangle(triangle.corners, {double(a), double(b), double(c)}, true).depth;
-}
-
 bool isOneColor(const std::array<PageColor, 3>& colors)
 {
     const auto spread = [&](float PageColor::*part) {
@@ -120,7 +114,8 @@ void PicturePainter::paintPart(const PagePrimitives& primitives, std::size_t ind
         return;
     }
     const auto component = [&](float PageColor::*part) {
-        return over(primitives.surfaces[index], colors[0].*part, colors[1].*part, colors[2].*part);
+        return Linear::through(primitives.surfaces[index].corners,
+                               {double(colors[0].*part), double(colors[1].*part), double(colors[2].*part)});
     };
     const Linear red = component(&PageColor::red);
     const Linear green = component(&PageColor::green);
