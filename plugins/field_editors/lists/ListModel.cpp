@@ -8,7 +8,7 @@
 #include <algorithm>
 
 ListModel::ListModel(FieldBinding& binding, const ListColumns& columns, QObject* parent)
-    : QAbstractTableModel(parent), m_binding(binding), m_columns(columns)
+    : QAbstractTableModel(parent), m_binding(binding), m_columns(columns), m_headers(columns.headers())
 {
     connect(&binding, &FieldBinding::fieldChanged, this, &ListModel::takeField);
     connect(&binding, &FieldBinding::valueChanged, this, &ListModel::takeChange);
@@ -34,7 +34,7 @@ int ListModel::rowCount(const QModelIndex& parent) const
 
 int ListModel::columnCount(const QModelIndex& parent) const
 {
-    return parent.isValid() ? 0 : m_columns.headers().size();
+    return parent.isValid() ? 0 : m_headers.size();
 }
 
 QVariant ListModel::data(const QModelIndex& cell, int role) const
@@ -77,7 +77,7 @@ QVariant ListModel::headerData(int section, Qt::Orientation orientation, int rol
 {
     if (role != Qt::DisplayRole)
         return {};
-    return orientation == Qt::Horizontal ? QVariant(m_columns.headers().value(section)) : QVariant(section);
+    return orientation == Qt::Horizontal ? QVariant(m_headers.value(section)) : QVariant(section);
 }
 
 Qt::ItemFlags ListModel::flags(const QModelIndex& cell) const

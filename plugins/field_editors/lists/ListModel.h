@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QStringList>
 
 class FieldBinding;
 class ListColumns;
@@ -35,5 +36,6 @@ private:
 
     FieldBinding& m_binding;
     const ListColumns& m_columns;
-    int m_rowCount = 0; ///< as the view knows it; the list may be a turn ahead
+    QStringList m_headers; ///< those of the columns, which are asked for with each cell
+    int m_rowCount = 0;    ///< as the view knows it; the list may be a turn ahead
 };

@@ -102,6 +102,7 @@ void FieldHeader::showField()
     const SoField* const field = m_binding.field();
     if (!field)
         return;
+    m_hasDefaultValue = m_binding.hasDefaultValue();
     m_name->setText(field->getName().toQString());
     m_owner->setText(
         tr("%1 of %2").arg(field->getTypeId().getName().toQString(), ReferenceText::of(field->getContainer())));
@@ -114,7 +115,7 @@ void FieldHeader::showState()
     if (!field)
         return;
     const bool isEditable = m_binding.isEditable();
-    m_reset->setEnabled(isEditable && !field->isDefault() && m_binding.hasDefaultValue());
+    m_reset->setEnabled(isEditable && !field->isDefault() && m_hasDefaultValue);
     m_copy->setEnabled(!field->holdsReferences());
     m_paste->setEnabled(isEditable);
     m_ignore->setChecked(field->isIgnored());

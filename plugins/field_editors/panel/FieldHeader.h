@@ -32,6 +32,7 @@ private:
     void showConnection(const SoField& field);
 
     FieldBinding m_binding;
+    bool m_hasDefaultValue = false; ///< found out once for a field, with an object that is made for that
     QLabel* m_name;
     QLabel* m_owner;
     QLabel* m_state;
